@@ -1,0 +1,121 @@
+#pragma once
+// The engine's facade: one game, its history of positions, its stored solution
+// and the player's pencil-mark rules. Everything the player must see goes out
+// through eng::BoardObserver.
+
+#include <deque>
+#include <list>
+#include <vector>
+
+#include "BoardSnapshot.h"
+#include "Cell.h"
+#include "Conflicts.h"
+#include "MasterSolution.h"
+#include "Rules.h"
+
+namespace eng_priv {
+class RuleSolver;
+}
+
+namespace eng {
+
+enum Level : int {
+    lvlCompleted = 0,
+    lvlVeryEasy = 1,
+    lvlEasy = 2,
+    lvlMedium = 3,
+    lvlHard = 4,
+    lvlUserEdit = 5,
+};
+
+class BoardObserver {
+public:
+    virtual ~BoardObserver();
+    virtual void cellsChanged(const std::vector<CellInfo*>& cells) = 0;
+    virtual void noMoreMoves(const std::vector<CellInfo*>& cells) = 0;
+    virtual void cellHasNoSolution(const std::vector<CellInfo*>& cells, int cell) = 0;
+    virtual void loadFailed(int expectedVersion, int actualVersion) = 0;
+    virtual void valueRefused(int index, int value) = 0;
+    virtual void potentialRefused(int index, int value) = 0;
+};
+
+class Board : public eng_priv::Serializable {
+public:
+    explicit Board(BoardObserver* observer);
+    ~Board() override;
+    Board(const Board&) = delete;
+    Board& operator=(const Board&) = delete;
+
+    bool deserialize(std::istream& in) override;
+    bool serialize(std::ostream& out) override;
+
+    bool generate(int level);
+    bool setValue(int index, int value);
+    bool togglePotential(int index, int value);
+    bool makeMove();
+    bool retract();
+    bool isComplete();
+    void setPencilMarksRules(std::list<Rules> rules);
+    void applyPencilMarksRule(Rules rule);
+
+    // Read-only queries used by tests, tools and the user interface.
+    int getLevel() const { return level; }
+    int getPhase() const { return phase; }
+    int getAttempt() const { return attempt; }
+    size_t historySize() const { return history.size(); }
+    size_t undoneSize() const { return undone.size(); }
+    // The current position's cell, or null when there is no position.
+    const CellInfo* cell(int index) const;
+    // The stored solution's value of a cell, 0 when there is none (never throws).
+    int solutionValue(int index) const;
+    const eng_priv::MasterSolution& solution() const { return masterSolution; }
+    const std::list<Rules>& pencilMarksRulesList() const { return pencilMarksRules; }
+
+    enum PlaceKind { placeFill, placeReveal, placeHint, placePlayer, placePlayerUserEdit, placeSearch };
+
+private:
+    friend class BoardTestAccess;
+
+    eng_priv::MasterSolution masterSolution;
+    std::deque<eng_priv::BoardSnapshot*> history;
+    std::deque<eng_priv::BoardSnapshot*> undone;
+    int level = 0;
+    int phase = 0;
+    int attempt = 0;
+    BoardObserver* observer = nullptr;
+    std::list<Rules> pencilMarksRules;
+
+    bool placeValue(eng_priv::BoardSnapshot& s, eng_priv::RuleSolver& solver, int index, int value,
+                    int origin);
+    bool placeValueAs(int index, int value, PlaceKind kind);
+    bool runRules(eng_priv::BoardSnapshot& s, eng_priv::RuleSolver& solver, bool& changed);
+    bool runRulesFromValues(eng_priv::RuleSolver& solver, eng_priv::BoardSnapshot& s);
+    bool isConsistent(const eng_priv::BoardSnapshot& s);
+    void applyRulesList(std::list<Rules> rules);
+    void clear();
+    void reportCells();
+    void reportNoMoreMoves();
+    void cellViews(std::vector<CellInfo*>& out);
+    int revealPreset() const;
+
+    // History.
+    void resetToFirst();
+
+    // Make move and the search.
+    void captureSolution();
+    bool revealOne(PlaceKind kind);
+    bool search(PlaceKind kind);
+    bool guessOne(PlaceKind kind);
+    bool tryValues(eng_priv::Cell* cell, PlaceKind kind);
+    bool retractGuess();
+    eng_priv::Cell* chooseCell(const std::vector<eng_priv::Cell*>& cells, int phase);
+
+    // Generation.
+    bool fill();
+    void revealUntilReady();
+    bool isTooEasy();
+    void finishGame();
+    bool solves(int preset, const eng_priv::BoardSnapshot& s);
+};
+
+}  // namespace eng

@@ -1,0 +1,26 @@
+#include "MasterSolution.h"
+
+#include <stdexcept>
+
+namespace eng_priv {
+
+const char* const kForbiddenSolutionError =
+    "This is bug: Access to master solution is forbidden. Most likely this is a lvlUserEdit game.";
+
+MasterSolution::~MasterSolution() { delete solution; }
+
+int MasterSolution::value(int index) const {
+    if (forbidden) throw std::runtime_error(kForbiddenSolutionError);
+    if (!solution || index < 0 || index > 80) return 0;
+    return solution->cells[index].value();
+}
+
+void MasterSolution::reset() {
+    triedValueCount = 0;
+    guessCount = 0;
+    forbidden = false;
+    delete solution;
+    solution = nullptr;
+}
+
+}  // namespace eng_priv
