@@ -1,0 +1,97 @@
+// Engine benchmarks: generation per level, one rule pass, a searched move.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <vector>
+
+#include "Board.h"
+#include "RuleSolver.h"
+
+namespace {
+
+void seedOnce() {
+    static eng::Board first(nullptr);  // the first board seeds rand() from the clock
+    (void)first;
+}
+
+double percentile(std::vector<double> samples, double p) {
+    if (samples.empty()) return 0;
+    std::sort(samples.begin(), samples.end());
+    const size_t i = std::min(samples.size() - 1, static_cast<size_t>(p * (samples.size() - 1) + 0.5));
+    return samples[i];
+}
+
+// One game per iteration, each from its own seed; reports the median and the
+// 99th percentile of the generation time over all seeds.
+void BM_Generate(benchmark::State& state) {
+    seedOnce();
+    const int level = static_cast<int>(state.range(0));
+    std::vector<double> millis;
+    unsigned seed = 1;
+    int failures = 0;
+    for (auto _ : state) {
+        std::srand(seed++);
+        eng::Board board(nullptr);
+        board.setPencilMarksRules({eng::ruleSingles});
+        const auto start = std::chrono::steady_clock::now();
+        failures += !board.generate(level);
+        millis.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+    }
+    state.counters["median_ms"] = percentile(millis, 0.5);
+    state.counters["p99_ms"] = percentile(millis, 0.99);
+    state.counters["failed"] = failures;
+}
+BENCHMARK(BM_Generate)->DenseRange(0, 4)->Iterations(300)->Unit(benchmark::kMillisecond);
+
+eng_priv::BoardSnapshot puzzleSnapshot(int level, unsigned seed) {
+    seedOnce();
+    std::srand(seed);
+    eng::Board board(nullptr);
+    board.generate(level);
+    eng_priv::BoardSnapshot s;
+    for (int i = 0; i < 81; ++i) {
+        const int v = board.cell(i)->value();
+        if (v) {
+            s.cells[i].setSinglePotential(v);
+            s.cells[i].setValue(v, 1);
+        }
+    }
+    return s;
+}
+
+// One full preset-3 pass from the values of a fresh Hard puzzle.
+void BM_Preset3Pass(benchmark::State& state) {
+    const eng_priv::BoardSnapshot puzzle = puzzleSnapshot(eng::lvlHard, 77);
+    for (auto _ : state) {
+        eng_priv::BoardSnapshot* s = puzzle.copy();
+        eng_priv::RuleSolver solver(3);
+        solver.applyAllFromValues(*s);
+        benchmark::DoNotOptimize(s->cells[0].potentialCount);
+        delete s;
+    }
+}
+BENCHMARK(BM_Preset3Pass)->Unit(benchmark::kMicrosecond);
+
+// "Make Move" on an empty User Edit board: a searched move.
+void BM_UserEditMakeMove(benchmark::State& state) {
+    seedOnce();
+    std::srand(3);
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto* board = new eng::Board(nullptr);
+        board->setPencilMarksRules({eng::ruleSingles});
+        board->generate(eng::lvlUserEdit);
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(board->makeMove());
+        state.PauseTiming();
+        delete board;
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_UserEditMakeMove)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();
