@@ -1,0 +1,278 @@
+#include "Tile.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QPointer>
+#include <QThread>
+
+#include "ui_Tile.h"
+
+const QString Tile::styleTileNormal = QStringLiteral("background-color: white;");
+const QString Tile::styleTileGiven = QStringLiteral("background-color: rgb(245, 245, 245);");
+const QString Tile::styleValueCaret = QStringLiteral("background-color: rgb(170, 255, 127);");
+const QString Tile::stylePencilCaret = QStringLiteral("background-color: rgb(94, 174, 255);");
+const QString Tile::styleHighlight = QStringLiteral("background-color: rgb(255,170,255); color : black;");
+const QString Tile::styleRejectedValue = QStringLiteral(
+    "background-color: rgb(170, 255, 127); text-decoration: line-through; font: 75 24pt \"MS Shell Dlg 2\"; "
+    "color: rgb(255, 0, 0);");
+const QString Tile::styleValueNormal = QStringLiteral("QLabel { background-color: transparent; color : black; }");
+const QString Tile::styleValueByMove = QStringLiteral("QLabel { background-color: transparent; color : blue; }");
+const QString Tile::styleValueByPlayer = QStringLiteral("QLabel { background-color: transparent; color : blue; }");
+const QString Tile::stylePotentialOn = QStringLiteral("QLabel { background-color: transparent; color : black; }");
+const QString Tile::stylePotentialOff =
+    QStringLiteral("QLabel { background-color: transparent; color : rgb(243, 243, 243); }");
+const QString Tile::stylePotentialRemoved = QStringLiteral("QLabel { background-color: red;  color : white; }");
+const QString Tile::styleFlashRed = QStringLiteral("background-color: red; color: black;");
+const QString Tile::styleFlashBlack = QStringLiteral("background-color: black; color: white;");
+const QString Tile::styleFlashEnd = QStringLiteral("background-color: transparent; color: black;");
+
+namespace {
+
+constexpr int kAnimationSteps = 4;
+constexpr int kAnimationStepMs = 200;
+
+QPalette candidatePalette() {
+    QPalette palette;
+    const QColor black(0, 0, 0), white(255, 255, 255), grey(218, 218, 218);
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QColor text = group == QPalette::Disabled ? grey : black;
+        palette.setColor(group, QPalette::WindowText, text);
+        palette.setColor(group, QPalette::Text, text);
+        palette.setColor(group, QPalette::ButtonText, text);
+        palette.setColor(group, QPalette::Button, white);
+        palette.setColor(group, QPalette::Base, white);
+        palette.setColor(group, QPalette::Window, white);
+        palette.setColor(group, QPalette::Dark, grey);
+    }
+    return palette;
+}
+
+}  // namespace
+
+Tile::Tile(QWidget* parent) : QWidget(parent), ui(new Ui::Tile) {
+    ui->setupUi(this);
+    QLabel* labels[9] = {ui->lbl1, ui->lbl2, ui->lbl3, ui->lbl4, ui->lbl5,
+                         ui->lbl6, ui->lbl7, ui->lbl8, ui->lbl9};
+    const QPalette palette = candidatePalette();
+    for (int i = 0; i < 9; ++i) {
+        potentials[i] = labels[i];
+        potentials[i]->setPalette(palette);
+    }
+    valueLabel = ui->lblValue;
+    index_ = -1;
+    highlighted = false;
+    pencilMarksShown = true;
+    showPencilMarks(false);
+    valueLabel->hide();
+    caretMode = NoCaret;
+}
+
+Tile::~Tile() { delete ui; }
+
+int Tile::index() const { return index_; }
+
+void Tile::setIndex(int index) { index_ = index; }
+
+void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
+    if (cell.origin() == eng::originGiven)
+        setStyleSheet(styleTileGiven);
+    else if (caretMode == NoCaret)
+        setStyleSheet(styleTileNormal);
+
+    const bool filled = cell.value() != 0;
+    const QString previous = valueLabel->text();
+    const QString text = QString::number(cell.value());
+    valueLabel->setText(text);
+    valueLabel->setVisible(filled);
+    if (valueLabel->isVisible()) {
+        const bool changed = text != previous;
+        QString style = styleValueNormal;
+        if (changed && markChanges && cell.origin() == eng::originMove) style = styleValueByMove;
+        if (changed && markChanges && cell.origin() == eng::originPlayer) style = styleValueByPlayer;
+        valueLabel->setStyleSheet(style);
+    }
+
+    for (int v = 1; v <= 9; ++v) {
+        QLabel* label = potentials[v - 1];
+        label->setVisible(!filled && pencilMarksShown);
+        const bool wasEnabled = label->isEnabled();
+        label->setEnabled(cell.isPotential(v));
+        if (!label->isVisible()) continue;
+        if (label->isEnabled())
+            label->setStyleSheet(stylePotentialOn);
+        else if (wasEnabled && markChanges)
+            label->setStyleSheet(stylePotentialRemoved);
+        else
+            label->setStyleSheet(stylePotentialOff);
+    }
+}
+
+void Tile::showPencilMarks(bool show) {
+    if (pencilMarksShown == show) return;
+    pencilMarksShown = show;
+    if (valueLabel->text() != QLatin1String("0")) return;
+    for (QLabel* label : potentials) {
+        label->setVisible(show);
+        label->setStyleSheet(label->isEnabled() ? stylePotentialOn : stylePotentialOff);
+    }
+}
+
+void Tile::resetPotentialStyles() {
+    for (QLabel* label : potentials) label->setStyleSheet(label->isEnabled() ? stylePotentialOn : stylePotentialOff);
+}
+
+void Tile::showValueCaret() {
+    setStyleSheet(styleValueCaret);
+    caretMode = ValueCaret;
+    setFocus(Qt::OtherFocusReason);
+}
+
+void Tile::showPencilCaret() {
+    setStyleSheet(stylePencilCaret);
+    caretMode = PencilCaret;
+    setFocus(Qt::OtherFocusReason);
+}
+
+Tile::CaretMode Tile::hideCaret() {
+    const CaretMode previous = caretMode;
+    if (highlighted) {
+        // The highlight survives the caret and ends on a white tile.
+        savedStyleSheet = styleTileNormal;
+        setStyleSheet(styleHighlight);
+    } else {
+        setStyleSheet(styleTileNormal);
+    }
+    caretMode = NoCaret;
+    return previous;
+}
+
+bool Tile::hasValue() const { return valueLabel->text() != QLatin1String("0"); }
+
+int Tile::value() const { return valueLabel->text().toInt(nullptr, 10); }
+
+void Tile::highlightValue(int newValue, int oldValue) {
+    if (oldValue != 0 && value() == oldValue && highlighted) {
+        setStyleSheet(savedStyleSheet);
+        highlighted = false;
+    }
+    if (newValue != 0 && value() == newValue) {
+        if (!highlighted) savedStyleSheet = styleSheet();
+        setStyleSheet(styleHighlight);
+        highlighted = true;
+    }
+}
+
+// Lets the window repaint, then waits one step. Returns false when the tile
+// went away while events were processed, so the animation stops touching it.
+bool Tile::pause() {
+    QPointer<Tile> self(this);
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    if (!self) return false;
+    QThread::msleep(kAnimationStepMs);
+    return true;
+}
+
+// Input that arrives on this tile while one of its animations runs is ignored
+// (the animation owns the labels until it ends), and a nested animation call on
+// the same tile returns at once.
+void Tile::rejectValue() {
+    if (animating) return;
+    animating = true;
+    QPointer<Tile> self(this);
+    setStyleSheet(styleRejectedValue);
+    for (int step = 0; step < kAnimationSteps; ++step) {
+        if (!pause()) return;
+        valueLabel->setVisible(!valueLabel->isVisible());
+    }
+    setStyleSheet(styleValueCaret);
+    valueLabel->setText(QStringLiteral("0"));
+    valueLabel->hide();
+    for (QLabel* label : potentials) label->setVisible(pencilMarksShown);
+    animating = false;
+}
+
+void Tile::flashPotential(int value) {
+    if (animating || value < 1 || value > 9) return;
+    animating = true;
+    QLabel* label = potentials[value - 1];
+    label->show();
+    for (int step = 0; step < kAnimationSteps; ++step) {
+        label->setStyleSheet(step % 2 == 0 ? styleFlashRed : styleFlashBlack);
+        if (!pause()) return;
+    }
+    label->show();
+    label->setStyleSheet(styleFlashEnd);
+    animating = false;
+}
+
+void Tile::mouseReleaseEvent(QMouseEvent* event) {
+    if (animating) return;
+    if (event->button() == Qt::LeftButton)
+        emit leftClicked(index_);
+    else if (event->button() == Qt::RightButton)
+        emit rightClicked(index_);
+}
+
+void Tile::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (animating) return;
+    if (event->button() == Qt::LeftButton) emit leftDoubleClicked(index_);
+    if (!hasValue() && pencilMarksShown) {
+        const int k = singleEnabledPotential();
+        if (k >= 0) emit singlePotentialDoubleClicked(index_, k + 1);
+    }
+}
+
+void Tile::keyReleaseEvent(QKeyEvent* event) {
+    if (caretMode == NoCaret || animating) {
+        QWidget::keyReleaseEvent(event);
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Left: emit moveCaret(index_, Left); return;
+    case Qt::Key_Up: emit moveCaret(index_, Up); return;
+    case Qt::Key_Right: emit moveCaret(index_, Right); return;
+    case Qt::Key_Down: emit moveCaret(index_, Down); return;
+    default: break;
+    }
+    if (hasValue()) {
+        QWidget::keyReleaseEvent(event);
+        return;
+    }
+    bool ok = false;
+    const int digit = event->text().toInt(&ok, 10);
+    if (!ok || digit < 1 || digit > 9) {
+        QWidget::keyReleaseEvent(event);
+        return;
+    }
+    if (caretMode == ValueCaret) {
+        showValue(digit);
+        emit valueEdited(index_, digit);
+    } else {
+        togglePotential(digit);
+        emit potentialsEdited(index_, digit);
+    }
+}
+
+void Tile::showValue(int v) {
+    valueLabel->setText(QString::number(v));
+    valueLabel->show();
+    for (QLabel* label : potentials) label->hide();
+}
+
+void Tile::togglePotential(int v) {
+    QLabel* label = potentials[v - 1];
+    label->setVisible(!label->isVisible());
+}
+
+int Tile::singleEnabledPotential() const {
+    int found = -1;
+    for (int k = 0; k < 9; ++k) {
+        if (!potentials[k]->isEnabled()) continue;
+        if (found >= 0) return -1;
+        found = k;
+    }
+    return found;
+}

@@ -1,0 +1,98 @@
+#pragma once
+// The widget that shows one of the 81 cells: a big digit, or a 3x3 grid of
+// pencil marks, on a background that tells given, caret and highlight apart.
+
+#include <QMetaType>
+#include <QString>
+#include <QWidget>
+
+#include "Cell.h"
+
+class QLabel;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace Ui {
+class Tile;
+}
+
+class Tile : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(int index READ index WRITE setIndex STORED true DESIGNABLE true)
+
+public:
+    enum CaretDirection { Left = 1, Right = 2, Up = 3, Down = 4 };
+    enum CaretMode { NoCaret = 0, ValueCaret = 1, PencilCaret = 2 };
+
+    static const QString styleTileNormal;
+    static const QString styleTileGiven;
+    static const QString styleValueCaret;
+    static const QString stylePencilCaret;
+    static const QString styleHighlight;
+    static const QString styleRejectedValue;
+    static const QString styleValueNormal;
+    static const QString styleValueByMove;
+    static const QString styleValueByPlayer;
+    static const QString stylePotentialOn;
+    static const QString stylePotentialOff;
+    static const QString stylePotentialRemoved;
+    static const QString styleFlashRed;
+    static const QString styleFlashBlack;
+    static const QString styleFlashEnd;
+
+    explicit Tile(QWidget* parent = nullptr);
+    ~Tile() override;
+
+    int index() const;
+    void setIndex(int index);
+
+    void updateFromCell(const eng::CellInfo& cell, bool markChanges);
+    void showPencilMarks(bool show);
+    void resetPotentialStyles();
+    void showValueCaret();
+    void showPencilCaret();
+    CaretMode hideCaret();
+    bool hasValue() const;
+    int value() const;
+    void highlightValue(int newValue, int oldValue);
+
+    // Feedback animations: 4 steps of 200 ms, processing events in between.
+    void rejectValue();
+    void flashPotential(int value);
+
+    CaretMode caret() const { return caretMode; }
+    bool isHighlighted() const { return highlighted; }
+    bool isAnimating() const { return animating; }
+
+signals:
+    void leftClicked(int liniarAddress);
+    void leftDoubleClicked(int liniarAddress);
+    void singlePotentialDoubleClicked(int index, int value);
+    void rightClicked(int liniarAddress);
+    void valueEdited(int liniarAddress, int value);
+    void potentialsEdited(int liniarAddress, int valueToToggle);
+    void moveCaret(int liniarAddress, Tile::CaretDirection direction);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    Ui::Tile* ui;
+    QLabel* potentials[9];
+    QLabel* valueLabel;
+    int index_;
+    bool pencilMarksShown;
+    CaretMode caretMode;
+    bool highlighted;
+    QString savedStyleSheet;
+    bool animating = false;
+
+    void showValue(int v);
+    void togglePotential(int v);
+    int singleEnabledPotential() const;
+    bool pause();
+};
+
+Q_DECLARE_METATYPE(Tile::CaretDirection)
