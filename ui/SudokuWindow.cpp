@@ -1,0 +1,443 @@
+#include "SudokuWindow.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QSoundEffect>
+#include <QThread>
+#include <sstream>
+
+#include "AboutDialog.h"
+#include "ui_SudokuWindow.h"
+
+namespace {
+
+const char* const kTitle = "Sudoku Vantu";
+const char* const kVersion = "1.0.4";
+constexpr int kCelebrationStepMs = 300;
+
+const char* levelLabel(int level) {
+    switch (level) {
+    case eng::lvlCompleted: return "difficulty: none";
+    case eng::lvlVeryEasy: return "difficulty: Very Easy";
+    case eng::lvlEasy: return "difficulty: Easy";
+    case eng::lvlMedium: return "difficulty: Medium";
+    case eng::lvlHard: return "difficulty: Hard";
+    default: return "difficulty: user edit";
+    }
+}
+
+}  // namespace
+
+SudokuWindow::SudokuWindow(QWidget* parent)
+    : QMainWindow(parent), ui(new Ui::SudokuWindowClass), printingInfo(nullptr), pencilMarksOptions(nullptr) {
+    ui->setupUi(this);
+    for (int i = 0; i < 81; ++i) tiles[i] = findChild<Tile*>(QStringLiteral("tile%1").arg(i, 2, 10, QLatin1Char('0')));
+
+    qRegisterMetaType<Tile::CaretDirection>("Tile::CaretDirection");
+    qRegisterMetaType<eng::Rules>("eng::Rules");
+
+    for (Tile* tile : tiles) {
+        connect(tile, &Tile::leftClicked, this, &SudokuWindow::tileLeftClicked);
+        connect(tile, &Tile::leftDoubleClicked, this, &SudokuWindow::tileLeftDoubleClicked);
+        connect(tile, &Tile::singlePotentialDoubleClicked, this, &SudokuWindow::tileSinglePotentialDoubleClicked);
+        connect(tile, &Tile::rightClicked, this, &SudokuWindow::tileRightClicked);
+        connect(tile, &Tile::valueEdited, this, &SudokuWindow::tileValueEdited);
+        connect(tile, &Tile::potentialsEdited, this, &SudokuWindow::tilePotentialsEdited);
+        connect(tile, &Tile::moveCaret, this, &SudokuWindow::tileMoveCaret);
+    }
+    connect(&pencilMarksOptions, &PencilMarksOptions::applyRule, this, &SudokuWindow::applyPencilmarksRule);
+    connect(&pencilMarksOptions, &PencilMarksOptions::applyRules, this, &SudokuWindow::applyPencilmarksRules);
+
+    newGameStep(eng::lvlMedium, true);
+    ui->txtLevel->setText(tr(levelLabel(eng::lvlMedium)));
+}
+
+SudokuWindow::~SudokuWindow() {
+    hideCaretIfAny();
+    delete board;
+    board = nullptr;
+    delete ui;
+}
+
+QString SudokuWindow::levelText() const { return ui->txtLevel->text(); }
+
+bool SudokuWindow::pencilMarksShown() const { return ui->actionViewPencilMarks->isChecked(); }
+
+void SudokuWindow::closeEvent(QCloseEvent* event) {
+    closing = true;
+    pencilMarksOptions.close();
+    QCoreApplication::quit();
+    event->accept();
+}
+
+// ---------------------------------------------------------------------------
+// Observer
+
+void SudokuWindow::updateTiles(const std::vector<eng::CellInfo*>& cells, bool mark) {
+    for (const eng::CellInfo* cell : cells) {
+        const int i = cell->index();
+        if (i >= 0 && i < 81) tiles[i]->updateFromCell(*cell, mark);
+    }
+}
+
+void SudokuWindow::cellsChanged(const std::vector<eng::CellInfo*>& cells) {
+    BusyScope scope(busy);
+    updateTiles(cells, markChanges);
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
+
+void SudokuWindow::noMoreMoves(const std::vector<eng::CellInfo*>& cells) {
+    BusyScope scope(busy);
+    updateTiles(cells, false);
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    showMessage(QMessageBox::Warning, tr("No more moves can be done."));
+}
+
+void SudokuWindow::cellHasNoSolution(const std::vector<eng::CellInfo*>& cells, int cell) {
+    BusyScope scope(busy);
+    updateTiles(cells, false);
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    showMessage(QMessageBox::Warning, tr("Cell %1 has no solution").arg(cell));
+}
+
+void SudokuWindow::loadFailed(int expectedVersion, int actualVersion) {
+    BusyScope scope(busy);
+    if (actualVersion == -1)
+        showMessage(QMessageBox::Warning, tr("This is not a valid .sud file"));
+    else
+        showMessage(QMessageBox::Warning,
+                    QString("Loaded file version is incompatible\n(expected version: %1 actual version: %2)")
+                        .arg(expectedVersion)
+                        .arg(actualVersion));
+}
+
+void SudokuWindow::valueRefused(int index, int) {
+    if (index < 0 || index > 80) return;
+    BusyScope scope(busy);
+    playRefusalSound();
+    tiles[index]->rejectValue();
+}
+
+void SudokuWindow::potentialRefused(int index, int value) {
+    if (index < 0 || index > 80) return;
+    BusyScope scope(busy);
+    playRefusalSound();
+    tiles[index]->flashPotential(value);
+}
+
+// Fire and forget; without an audio device nothing is heard and nothing fails.
+void SudokuWindow::playRefusalSound() {
+    if (!sound) {
+        sound = new QSoundEffect(this);
+        sound->setSource(QUrl(QStringLiteral("qrc:/Sudoku/Resources/cuckoo.wav")));
+    }
+    sound->play();
+}
+
+void SudokuWindow::showMessage(int icon, const QString& text) {
+    if (closing) return;
+    BusyScope scope(busy);
+    QMessageBox box(static_cast<QMessageBox::Icon>(icon), tr(kTitle), text, QMessageBox::Ok, this);
+    box.exec();
+}
+
+// ---------------------------------------------------------------------------
+// Game commands
+
+void SudokuWindow::hideCaretIfAny() {
+    if (caretIndex == -1) return;
+    tiles[caretIndex]->hideCaret();
+    caretIndex = -1;
+}
+
+bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
+    if (board && !skipConfirmation) {
+        BusyScope scope(busy);
+        const auto answer = QMessageBox::question(this, tr(kTitle), tr("Current game will be lost.\nContinue?"),
+                                                  QMessageBox::Yes | QMessageBox::No);
+        if (answer != QMessageBox::Yes) return false;
+    }
+    hideCaretIfAny();
+    delete board;
+    board = new eng::Board(this);
+    board->setPencilMarksRules(pencilMarksOptions.selectedRules());
+    bool generated = false;
+    {
+        BusyScope scope(busy);
+        generated = board->generate(level);
+    }
+    if (!generated) showMessage(QMessageBox::Warning, tr("Failed to generate a valid game."));
+    return true;
+}
+
+void SudokuWindow::setLevelLabel(int level) { ui->txtLevel->setText(tr(levelLabel(level))); }
+
+void SudokuWindow::newGameCommand(int level) {
+    if (busy) return;
+    if (newGameStep(level, false)) setLevelLabel(level);
+}
+
+void SudokuWindow::newGameCompleted() { newGameCommand(eng::lvlCompleted); }
+void SudokuWindow::newGameVeryEasy() { newGameCommand(eng::lvlVeryEasy); }
+void SudokuWindow::newGameEasy() { newGameCommand(eng::lvlEasy); }
+void SudokuWindow::newGameMedium() { newGameCommand(eng::lvlMedium); }
+void SudokuWindow::newGameHard() { newGameCommand(eng::lvlHard); }
+void SudokuWindow::newGameUserEdit() { newGameCommand(eng::lvlUserEdit); }
+
+void SudokuWindow::makeMove() {
+    if (!board || busy) return;
+    {
+        BusyScope scope(busy);
+        markChanges = true;
+        board->makeMove();
+        markChanges = false;
+    }
+    if (board->isComplete()) celebrate();
+}
+
+void SudokuWindow::retractMove() {
+    if (!board || busy) return;
+    BusyScope scope(busy);
+    board->retract();
+}
+
+void SudokuWindow::setHighlight(int value) {
+    for (Tile* tile : tiles) tile->highlightValue(value, highlightedValue);
+    highlightedValue = value;
+}
+
+void SudokuWindow::toggleHighlight(int value) { setHighlight(value == highlightedValue ? 0 : value); }
+
+void SudokuWindow::placePencilCaret(int index) {
+    if (!pencilMarksShown() || tiles[index]->hasValue()) return;
+    caretIndex = index;
+    tiles[index]->showPencilCaret();
+}
+
+void SudokuWindow::tileLeftClicked(int index) {
+    if (!board || busy || index < 0 || index > 80) return;
+    if (pencilMarksShown())
+        for (Tile* tile : tiles) tile->resetPotentialStyles();
+    if (caretIndex == index) {
+        hideCaretIfAny();
+        return;
+    }
+    hideCaretIfAny();
+    if (tiles[index]->hasValue()) {
+        toggleHighlight(tiles[index]->value());
+        return;
+    }
+    setHighlight(0);
+    caretIndex = index;
+    tiles[index]->showValueCaret();
+}
+
+void SudokuWindow::tileRightClicked(int index) {
+    if (!board || busy || index < 0 || index > 80) return;
+    if (pencilMarksShown())
+        for (Tile* tile : tiles) tile->resetPotentialStyles();
+    if (caretIndex == index) {
+        hideCaretIfAny();
+        return;
+    }
+    hideCaretIfAny();
+    placePencilCaret(index);
+}
+
+void SudokuWindow::tileLeftDoubleClicked(int) {}
+
+void SudokuWindow::enterValue(int index, int value) {
+    if (!board || busy || index < 0 || index > 80) return;
+    {
+        BusyScope scope(busy);
+        markChanges = true;
+        board->setValue(index, value);
+        markChanges = false;
+    }
+    if (highlightedValue != 0) setHighlight(value);
+    if (board->isComplete()) celebrate();
+}
+
+void SudokuWindow::tileValueEdited(int liniarAddress, int value) { enterValue(liniarAddress, value); }
+
+void SudokuWindow::tileSinglePotentialDoubleClicked(int index, int value) { enterValue(index, value); }
+
+void SudokuWindow::tilePotentialsEdited(int liniarAddress, int valueToToggle) {
+    if (!board || busy || liniarAddress < 0 || liniarAddress > 80) return;
+    {
+        BusyScope scope(busy);
+        board->togglePotential(liniarAddress, valueToToggle);
+    }
+    if (highlightedValue != 0) setHighlight(highlightedValue);
+}
+
+void SudokuWindow::tileMoveCaret(int index, Tile::CaretDirection direction) {
+    if (!board || busy || index < 0 || index > 80) return;
+    int i = index;
+    do {
+        const int row = i / 9, column = i % 9;
+        int next = -1;
+        switch (direction) {
+        case Tile::Left: next = i - 1; break;
+        case Tile::Right: next = i + 1; break;
+        case Tile::Up:
+            if (i == 0) return;
+            next = row == 0 ? column + 71 : i - 9;
+            break;
+        case Tile::Down:
+            if (i == 80) return;
+            next = row == 8 ? column + 1 : i + 9;
+            break;
+        }
+        if (next < 0 || next > 80) return;
+        i = next;
+    } while (tiles[i]->hasValue());
+
+    if (caretIndex == -1) return;
+    const Tile::CaretMode mode = tiles[caretIndex]->hideCaret();
+    caretIndex = -1;
+    if (mode == Tile::ValueCaret) {
+        caretIndex = i;
+        tiles[i]->showValueCaret();
+    } else if (mode == Tile::PencilCaret) {
+        placePencilCaret(i);
+    }
+}
+
+void SudokuWindow::applyPencilmarksRule(eng::Rules rule) {
+    if (!board || busy) return;
+    BusyScope scope(busy);
+    markChanges = true;
+    board->applyPencilMarksRule(rule);
+    markChanges = false;
+}
+
+void SudokuWindow::applyPencilmarksRules() {
+    if (!board || busy) return;
+    BusyScope scope(busy);
+    markChanges = true;
+    board->setPencilMarksRules(pencilMarksOptions.selectedRules());
+    markChanges = false;
+}
+
+// Lights up the cells of each value in turn, then congratulates.
+void SudokuWindow::celebrate() {
+    BusyScope scope(busy);
+    setHighlight(0);
+    for (int v = 1; v <= 9 && !closing; ++v) {
+        setHighlight(v);
+        QCoreApplication::processEvents(QEventLoop::AllEvents);
+        QThread::msleep(kCelebrationStepMs);
+    }
+    setHighlight(0);
+    QMessageBox box(QMessageBox::Information, tr(kTitle), tr("Congratulations!"), QMessageBox::Ok, this);
+    if (!closing) box.exec();
+}
+
+void SudokuWindow::about() {
+    if (busy) return;
+    BusyScope scope(busy);
+    AboutDialog dialog(QString::fromLatin1(kVersion), this);
+    dialog.exec();
+}
+
+// ---------------------------------------------------------------------------
+// View options
+
+void SudokuWindow::viewToolbar(bool checked) { ui->mainToolBar->setVisible(checked); }
+
+void SudokuWindow::viewStatusbar(bool checked) { ui->statusBar->setVisible(checked); }
+
+void SudokuWindow::viewNewGameIcons(bool checked) {
+    for (QAction* a : {ui->actionNewGameVeryEasy, ui->actionNewGameEasy, ui->actionNewGameMedium, ui->actionNewGameHard})
+        a->setVisible(checked);
+}
+
+void SudokuWindow::viewOpenSaveIcons(bool checked) {
+    ui->actionOpenGame->setVisible(checked);
+    ui->actionSaveGame->setVisible(checked);
+}
+
+void SudokuWindow::viewPrintIcon(bool checked) { ui->actionPrint->setVisible(checked); }
+
+void SudokuWindow::viewBackForwardIcons(bool checked) {
+    ui->actionRetractMove->setVisible(checked);
+    ui->actionMakeMove->setVisible(checked);
+}
+
+void SudokuWindow::viewAboutIcon(bool checked) { ui->actionAbout->setVisible(checked); }
+
+void SudokuWindow::viewPencilMarks(bool checked) {
+    for (Tile* tile : tiles) tile->showPencilMarks(checked);
+}
+
+void SudokuWindow::viewPencilMarksOptions() {
+    const QRect frame = frameGeometry();
+    pencilMarksOptions.move(frame.right() + 1, frame.top());
+    pencilMarksOptions.show();
+}
+
+// ---------------------------------------------------------------------------
+// Open and save
+
+QString SudokuWindow::askFileName(FileRequest request) {
+    if (fileNameProvider) return fileNameProvider(request);
+    BusyScope scope(busy);
+    switch (request) {
+    case FileRequest::Open:
+        return QFileDialog::getOpenFileName(this, tr("Open File"), QString(), tr("Sudoku files (*.sud)"));
+    case FileRequest::Save:
+        return QFileDialog::getSaveFileName(this, tr("Save File"), QString(), tr("Sudoku files (*.sud)"));
+    case FileRequest::Pdf:
+        return QFileDialog::getSaveFileName(this, tr("Save File"), QString(), tr("Portable document files (*.pdf)"));
+    }
+    return QString();
+}
+
+// The game in play is replaced only once the chosen file has loaded, so a
+// cancelled or refused open leaves the current game playable.
+void SudokuWindow::openGame() {
+    if (busy) return;
+    hideCaretIfAny();
+    const QString name = askFileName(FileRequest::Open);
+    if (name.isEmpty()) return;
+    QFile file(name);
+    bool loaded = false;
+    if (file.open(QIODevice::ReadOnly)) {
+        const QByteArray bytes = file.readAll();
+        std::istringstream in(std::string(bytes.constData(), static_cast<size_t>(bytes.size())), std::ios::binary);
+        auto* next = new eng::Board(this);
+        try {
+            BusyScope scope(busy);
+            loaded = next->deserialize(in);
+        } catch (const std::exception&) {
+            loaded = false;
+        }
+        if (loaded) {
+            delete board;
+            board = next;
+        } else {
+            delete next;
+        }
+    }
+    if (!loaded) showMessage(QMessageBox::Information, tr("Failed to load game"));
+}
+
+void SudokuWindow::saveGame() {
+    if (!board || busy) return;
+    const QString name = askFileName(FileRequest::Save);
+    if (name.isEmpty()) return;
+    QFile file(name);
+    if (file.open(QIODevice::WriteOnly)) {
+        std::ostringstream out(std::ios::binary);
+        if (board->serialize(out)) {
+            const std::string bytes = out.str();
+            file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+            return;
+        }
+    }
+    showMessage(QMessageBox::Information, tr("Failed to save game"));
+}

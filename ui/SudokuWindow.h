@@ -1,0 +1,139 @@
+#pragma once
+// The main window: owns the board, shows it on 81 tiles, and turns menu
+// commands and tile signals into engine calls. It is the board's observer.
+
+#include <QMainWindow>
+#include <QPointer>
+#include <functional>
+
+#include "Board.h"
+#include "PencilMarksOptions.h"
+#include "PrintingInfo.h"
+#include "Tile.h"
+
+class QPainter;
+class QPrinter;
+class QSoundEffect;
+
+namespace Ui {
+class SudokuWindowClass;
+}
+
+class SudokuWindow : public QMainWindow, public eng::BoardObserver {
+    Q_OBJECT
+
+public:
+    explicit SudokuWindow(QWidget* parent = nullptr);
+    ~SudokuWindow() override;
+
+    // eng::BoardObserver
+    void cellsChanged(const std::vector<eng::CellInfo*>& cells) override;
+    void noMoreMoves(const std::vector<eng::CellInfo*>& cells) override;
+    void cellHasNoSolution(const std::vector<eng::CellInfo*>& cells, int cell) override;
+    void loadFailed(int expectedVersion, int actualVersion) override;
+    void valueRefused(int index, int value) override;
+    void potentialRefused(int index, int value) override;
+
+    // Which file the open, save and PDF commands use. By default the
+    // toolkit's file dialogs ask the player; tests put their own answer here.
+    enum class FileRequest { Open, Save, Pdf };
+    using FileNameProvider = std::function<QString(FileRequest)>;
+    void setFileNameProvider(FileNameProvider provider) { fileNameProvider = std::move(provider); }
+
+    // Read access for tests and tools.
+    eng::Board* currentBoard() const { return board; }
+    Tile* tileAt(int index) const { return index >= 0 && index < 81 ? tiles[index] : nullptr; }
+    int caret() const { return caretIndex; }
+    int highlight() const { return highlightedValue; }
+    PrintingInfo& printingOptions() { return printingInfo; }
+    PencilMarksOptions& pencilMarksDialog() { return pencilMarksOptions; }
+    QString levelText() const;
+    bool isBusy() const { return busy > 0; }
+
+public slots:
+    void tileLeftClicked(int index);
+    void tileLeftDoubleClicked(int index);
+    void tileSinglePotentialDoubleClicked(int index, int value);
+    void tileRightClicked(int index);
+    void tileValueEdited(int liniarAddress, int value);
+    void tilePotentialsEdited(int liniarAddress, int valueToToggle);
+    void tileMoveCaret(int, Tile::CaretDirection direction);
+    void openGame();
+    void saveGame();
+    void printGame();
+    void retractMove();
+    void makeMove();
+    void about();
+    void newGameCompleted();
+    void newGameVeryEasy();
+    void newGameEasy();
+    void newGameMedium();
+    void newGameHard();
+    void newGameUserEdit();
+    void viewToolbar(bool checked);
+    void viewStatusbar(bool checked);
+    void viewNewGameIcons(bool checked);
+    void viewOpenSaveIcons(bool checked);
+    void viewPrintIcon(bool checked);
+    void viewBackForwardIcons(bool checked);
+    void viewAboutIcon(bool checked);
+    void viewPencilMarks(bool checked);
+    void viewPencilMarksOptions();
+    void applyPencilmarksRule(eng::Rules rule);
+    void applyPencilmarksRules();
+    void doPainting(QPrinter* printer);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    Ui::SudokuWindowClass* ui;
+    Tile* tiles[81];
+    eng::Board* board = nullptr;
+    PrintingInfo printingInfo;
+    PencilMarksOptions pencilMarksOptions;
+    int caretIndex = -1;
+    bool markChanges = false;
+    int highlightedValue = 0;
+
+    // More than zero while an engine call, an animation, a message box or the
+    // celebration runs. Input that arrives meanwhile (delivered while events
+    // are processed) is ignored, so no command acts on a board or a tile that
+    // the running one is still using.
+    int busy = 0;
+    bool closing = false;
+    QSoundEffect* sound = nullptr;
+    FileNameProvider fileNameProvider;
+
+    class BusyScope {
+    public:
+        explicit BusyScope(int& counter) : counter(counter) { ++counter; }
+        ~BusyScope() { --counter; }
+        BusyScope(const BusyScope&) = delete;
+        BusyScope& operator=(const BusyScope&) = delete;
+
+    private:
+        int& counter;
+    };
+
+    bool newGameStep(int level, bool skipConfirmation);
+    void newGameCommand(int level);
+    void setHighlight(int value);
+    void toggleHighlight(int value);
+    void placePencilCaret(int index);
+    void celebrate();
+    void enterValue(int index, int value);
+    void hideCaretIfAny();
+    void updateTiles(const std::vector<eng::CellInfo*>& cells, bool mark);
+    bool pencilMarksShown() const;
+    void playRefusalSound();
+    void showMessage(int icon, const QString& text);
+    QString askFileName(FileRequest request);
+    void setLevelLabel(int level);
+
+    void printOnePerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter, QPrinter* printer);
+    void printTwoPerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter);
+    void printFourPerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter);
+    void printBoards(int boardsPerPage, const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter);
+    void generateForPrinting();
+};

@@ -1,0 +1,124 @@
+// Printing: print preview, printer and PDF output of the board area, one, two
+// or four boards a page.
+#include <QMessageBox>
+#include <QPainter>
+#include <QPicture>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+
+#include "PrintLayout.h"
+#include "SudokuWindow.h"
+#include "ui_SudokuWindow.h"
+
+namespace {
+
+constexpr QWidget::RenderFlags kRenderFlags = QWidget::DrawWindowBackground | QWidget::DrawChildren;
+
+}  // namespace
+
+void SudokuWindow::printGame() {
+    if (busy) return;
+    {
+        BusyScope scope(busy);
+        if (printingInfo.exec() != QDialog::Accepted) return;
+    }
+    QPrinter printer(printingInfo.highResolution() ? QPrinter::HighResolution : QPrinter::ScreenResolution);
+    if (printingInfo.exportToPdf()) printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setFullPage(true);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageOrientation(QPageLayout::Portrait);
+    printer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
+
+    if (printingInfo.showPrintPreview()) {
+        BusyScope scope(busy);
+        QPrintPreviewDialog preview(&printer);
+        connect(&preview, &QPrintPreviewDialog::paintRequested, this, &SudokuWindow::doPainting);
+        preview.exec();
+        return;
+    }
+    if (printingInfo.exportToPdf()) {
+        const QString name = askFileName(FileRequest::Pdf);
+        if (name.isEmpty()) return;
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(name);
+        doPainting(&printer);
+        return;
+    }
+    {
+        BusyScope scope(busy);
+        QPrintDialog dialog(&printer, this);
+        dialog.setWindowTitle(tr("Print Document"));
+        if (dialog.exec() != QDialog::Accepted) return;
+    }
+    doPainting(&printer);
+}
+
+void SudokuWindow::doPainting(QPrinter* printer) {
+    if (!printer) return;
+    const QRectF pageMm = printer->pageRect(QPrinter::Millimeter);
+    const QRectF pageDevice = printer->pageRect(QPrinter::DevicePixel);
+    QPainter painter;
+    if (!painter.begin(printer)) {
+        showMessage(QMessageBox::Warning, tr("Failed to print."));
+        return;
+    }
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform |
+                           QPainter::HighQualityAntialiasing);
+    QT_WARNING_POP
+    const int what = printingInfo.whatToPrint();
+    for (int pass = 0; pass < printingInfo.repeatCount(); ++pass) {
+        if (pass > 0) printer->newPage();
+        switch (what) {
+        case 2: printTwoPerPage(pageMm, pageDevice, painter); break;
+        case 3: printFourPerPage(pageMm, pageDevice, painter); break;
+        default: printOnePerPage(pageMm, pageDevice, painter, printer); break;
+        }
+    }
+    if (!painter.end()) showMessage(QMessageBox::Warning, tr("Failed to print."));
+}
+
+// A game for the page, started like the level commands but without asking.
+void SudokuWindow::generateForPrinting() {
+    const int level = printingInfo.gamesLevel();
+    newGameStep(level, true);
+    setLevelLabel(level);
+}
+
+void SudokuWindow::printOnePerPage(const QRectF& pageMm, const QRectF&, QPainter& painter, QPrinter* printer) {
+    QPicture picture;
+    if (printingInfo.whatToPrint() == 1) generateForPrinting();
+    ui->boardWidget->render(&picture, QPoint(), QRegion(), kRenderFlags);
+    const QRectF target = print_layout::boardRects(1, pageMm).first();
+    painter.translate(target.x() * printer->logicalDpiX() / 25.4, target.y() * printer->logicalDpiY() / 25.4);
+    painter.scale(target.width() / picture.widthMM(), target.height() / picture.heightMM());
+    painter.drawPicture(0, 0, picture);
+    painter.resetTransform();
+}
+
+void SudokuWindow::printTwoPerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter) {
+    printBoards(2, pageMm, pageDevice, painter);
+}
+
+void SudokuWindow::printFourPerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter) {
+    printBoards(4, pageMm, pageDevice, painter);
+}
+
+void SudokuWindow::printBoards(int boardsPerPage, const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter) {
+    const double fx = pageDevice.width() / pageMm.width();
+    const double fy = pageDevice.height() / pageMm.height();
+    QVector<QRectF> rects;
+    for (const QRectF& mm : print_layout::boardRects(boardsPerPage, pageMm))
+        rects << QRectF(QPointF(mm.left() * fx, mm.top() * fy), QPointF(mm.right() * fx, mm.bottom() * fy));
+    const double sx = rects.first().width() / ui->boardWidget->width();
+    const double sy = rects.first().height() / ui->boardWidget->height();
+    for (const QRectF& r : rects) {
+        painter.translate(r.topLeft());
+        painter.scale(sx, sy);
+        generateForPrinting();
+        ui->boardWidget->render(&painter, QPoint(0, 0), QRegion(), kRenderFlags);
+        painter.resetTransform();
+    }
+}
