@@ -1,0 +1,401 @@
+// The main window: start-up, game commands, caret and highlight, view options,
+// open and save.
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <QTemporaryDir>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QtTest>
+#include <cstdlib>
+#include <fstream>
+
+#include "SudokuWindow.h"
+#include "WindowTestSupport.h"
+
+namespace {
+
+void savePicture(QWidget& w, const QString& name) {
+    const QString dir = qEnvironmentVariable("SUDOKU_TEST_OUTPUT");
+    if (dir.isEmpty()) return;
+    QDir().mkpath(dir);
+    w.grab().save(dir + "/" + name + ".png");
+}
+
+QAction* action(SudokuWindow& w, const char* name) { return w.findChild<QAction*>(name); }
+
+int firstEmpty(SudokuWindow& w, int from = 0) {
+    for (int i = from; i < 81; ++i)
+        if (!w.tileAt(i)->hasValue()) return i;
+    return -1;
+}
+
+std::vector<int> shownValues(SudokuWindow& w) {
+    std::vector<int> v;
+    for (int i = 0; i < 81; ++i) v.push_back(w.tileAt(i)->value());
+    return v;
+}
+
+}  // namespace
+
+class WindowTest : public QObject {
+    Q_OBJECT
+
+    SudokuWindow* window = nullptr;
+
+private slots:
+    void init() {
+        window = new SudokuWindow();
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+    }
+    void cleanup() {
+        delete window;
+        window = nullptr;
+    }
+
+    void startUp() {
+        QCOMPARE(window->windowTitle(), QString("Sudoku Vantu"));
+        // 609 x 709, unless the platform's menu and tool bars need a little more.
+        QCOMPARE(window->width(), 609);
+        QVERIFY(window->height() >= 709 && window->height() <= 720);
+        QCOMPARE(window->levelText(), QString("difficulty: Medium"));
+        QVERIFY(window->currentBoard());
+        QCOMPARE(window->currentBoard()->getLevel(), int(eng::lvlMedium));
+        QVERIFY(!action(*window, "actionViewPencilMarks")->isChecked());
+        for (const char* name : {"actionViewToolbar", "actionViewStatusbar", "actionViewNewGameIcons",
+                                 "actionViewOpenSaveIcons", "actionViewPrintIcon", "actionViewBackForwardIcons",
+                                 "actionViewAboutIcon"})
+            QVERIFY2(action(*window, name)->isChecked(), name);
+        QVERIFY(!window->findChild<QMenu*>("menuToolbarItems")->isEnabled());
+        QCOMPARE(action(*window, "actionPrint")->shortcut(), QKeySequence("Ctrl+P"));
+        QCOMPARE(action(*window, "actionOpenGame")->text(), QString("&Open Game..."));
+        // Tiles sit in their frames and report their own addresses.
+        Tile* t37 = window->tileAt(37);
+        QCOMPARE(t37->objectName(), QString("tile37"));
+        QCOMPARE(t37->parentWidget()->objectName(), QString("frame_4"));
+        QCOMPARE(t37->pos(), QPoint(63, 63));
+        QCOMPARE(t37->index(), 37);
+        QSignalSpy spy(t37, &Tile::leftClicked);
+        QTest::mouseClick(t37, Qt::LeftButton);
+        QCOMPARE(spy.at(0).at(0).toInt(), 37);
+        int givens = 0;
+        for (int i = 0; i < 81; ++i) givens += window->tileAt(i)->hasValue();
+        QVERIFY(givens > 17 && givens < 81);
+        savePicture(*window, "window_start");
+    }
+
+    void valueEntryThroughKeys() {
+        eng::Board* board = window->currentBoard();
+        const int i = firstEmpty(*window);
+        Tile* tile = window->tileAt(i);
+        QTest::mouseClick(tile, Qt::LeftButton);
+        QCOMPARE(window->caret(), i);
+        QCOMPARE(tile->styleSheet(), Tile::styleValueCaret);
+        savePicture(*window, "window_caret");
+        const int right = board->solutionValue(i);
+        const int wrong = right % 9 + 1;
+        const size_t before = board->historySize();
+        QElapsedTimer timer;
+        timer.start();
+        QTest::keyClick(tile, Qt::Key_0 + wrong);
+        QVERIFY(timer.elapsed() >= 800);  // the refusal animation ran
+        QVERIFY(!tile->hasValue());
+        QCOMPARE(board->historySize(), before);
+        QTest::keyClick(tile, Qt::Key_0 + right);
+        QCOMPARE(tile->value(), right);
+        QCOMPARE(board->cell(i)->origin(), int(eng::originPlayer));
+        QCOMPARE(board->historySize(), before + 1);
+    }
+
+    void makeAndRetractMoves() {
+        const auto puzzle = shownValues(*window);
+        action(*window, "actionMakeMove")->trigger();
+        const auto first = shownValues(*window);
+        action(*window, "actionMakeMove")->trigger();
+        const auto second = shownValues(*window);
+        QVERIFY(first != puzzle && second != first);
+        action(*window, "actionRetractMove")->trigger();
+        QCOMPARE(shownValues(*window), first);
+        action(*window, "actionRetractMove")->trigger();
+        QCOMPARE(shownValues(*window), puzzle);
+        action(*window, "actionMakeMove")->trigger();
+        QCOMPARE(shownValues(*window), first);
+        action(*window, "actionMakeMove")->trigger();
+        QCOMPARE(shownValues(*window), second);
+    }
+
+    void caretWalk() {
+        MessageBoxAnswerer answerer;
+        action(*window, "actionNewGameUserEdit")->trigger();
+        QCOMPARE(window->levelText(), QString("difficulty: user edit"));
+        eng::Board* board = window->currentBoard();
+        QVERIFY(board->setValue(10, 1));
+        QVERIFY(board->setValue(11, 2));
+        QTest::mouseClick(window->tileAt(9), Qt::LeftButton);
+        QTest::keyClick(window->tileAt(9), Qt::Key_Right);
+        QCOMPARE(window->caret(), 12);  // filled 10 and 11 are stepped over
+        QTest::mouseClick(window->tileAt(5), Qt::LeftButton);
+        QTest::keyClick(window->tileAt(5), Qt::Key_Up);
+        QCOMPARE(window->caret(), 76);
+        QTest::mouseClick(window->tileAt(77), Qt::LeftButton);
+        QTest::keyClick(window->tileAt(77), Qt::Key_Down);
+        QCOMPARE(window->caret(), 6);
+        QTest::mouseClick(window->tileAt(80), Qt::LeftButton);
+        QTest::keyClick(window->tileAt(80), Qt::Key_Right);
+        QCOMPARE(window->caret(), 80);
+        QTest::keyClick(window->tileAt(80), Qt::Key_Down);
+        QCOMPARE(window->caret(), 80);
+        QTest::mouseClick(window->tileAt(0), Qt::LeftButton);
+        QTest::keyClick(window->tileAt(0), Qt::Key_Left);
+        QTest::keyClick(window->tileAt(0), Qt::Key_Up);
+        QCOMPARE(window->caret(), 0);
+        // Clicking the caret tile removes the caret; clicking again brings it back.
+        QTest::mouseClick(window->tileAt(0), Qt::LeftButton);
+        QCOMPARE(window->caret(), -1);
+        QTest::mouseClick(window->tileAt(0), Qt::LeftButton);
+        QCOMPARE(window->caret(), 0);
+
+        // A pencil caret needs the pencil marks shown, and keeps its mode.
+        QTest::mouseClick(window->tileAt(30), Qt::RightButton);
+        QCOMPARE(window->caret(), -1);
+        action(*window, "actionViewPencilMarks")->trigger();
+        QTest::mouseClick(window->tileAt(30), Qt::RightButton);
+        QCOMPARE(window->caret(), 30);
+        QCOMPARE(window->tileAt(30)->caret(), Tile::PencilCaret);
+        QTest::keyClick(window->tileAt(30), Qt::Key_Down);
+        QCOMPARE(window->caret(), 39);
+        QCOMPARE(window->tileAt(39)->caret(), Tile::PencilCaret);
+        QTest::keyClick(window->tileAt(39), Qt::Key_4);
+        QVERIFY(!board->cell(39)->isPotential(4));
+        QTest::keyClick(window->tileAt(39), Qt::Key_4);
+        QVERIFY(board->cell(39)->isPotential(4));
+        savePicture(*window, "window_pencil_marks");
+        QVERIFY(answerer.texts.contains("Current game will be lost.\nContinue?"));
+    }
+
+    void highlightToggling() {
+        int filled = 0;
+        while (!window->tileAt(filled)->hasValue()) ++filled;
+        const int v = window->tileAt(filled)->value();
+        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
+        QCOMPARE(window->highlight(), v);
+        int lit = 0;
+        for (int i = 0; i < 81; ++i) lit += window->tileAt(i)->isHighlighted();
+        int withValue = 0;
+        for (int i = 0; i < 81; ++i) withValue += window->tileAt(i)->value() == v;
+        QCOMPARE(lit, withValue);
+        savePicture(*window, "window_highlight");
+        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
+        QCOMPARE(window->highlight(), 0);
+        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
+        const int empty = firstEmpty(*window);
+        QTest::mouseClick(window->tileAt(empty), Qt::LeftButton);
+        QCOMPARE(window->highlight(), 0);
+        QCOMPARE(window->caret(), empty);
+        // Entering a value moves an active highlight to it.
+        window->tileAt(empty)->hideCaret();
+        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
+        QTest::mouseClick(window->tileAt(empty), Qt::LeftButton);
+        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
+        QCOMPARE(window->highlight(), v);
+        const int right = window->currentBoard()->solutionValue(empty);
+        window->tileValueEdited(empty, right);
+        QCOMPARE(window->highlight(), right);
+    }
+
+    void declinedNewGameKeepsEverything() {
+        const auto before = shownValues(*window);
+        eng::Board* board = window->currentBoard();
+        const int empty = firstEmpty(*window);
+        QTest::mouseClick(window->tileAt(empty), Qt::LeftButton);
+        MessageBoxAnswerer answerer(QMessageBox::No);
+        action(*window, "actionNewGameHard")->trigger();
+        QCOMPARE(answerer.texts, QStringList{"Current game will be lost.\nContinue?"});
+        QCOMPARE(window->currentBoard(), board);
+        QCOMPARE(window->caret(), empty);
+        QCOMPARE(window->levelText(), QString("difficulty: Medium"));
+        QCOMPARE(shownValues(*window), before);
+        answerer.answer = QMessageBox::Yes;
+        action(*window, "actionNewGameHard")->trigger();
+        QCOMPARE(window->levelText(), QString("difficulty: Hard"));
+        QCOMPARE(window->caret(), -1);
+        QCOMPARE(window->currentBoard()->getLevel(), int(eng::lvlHard));
+    }
+
+    void completingTheBoardCelebrates() {
+        MessageBoxAnswerer answerer;
+        std::srand(5);
+        action(*window, "actionNewGameVeryEasy")->trigger();
+        eng::Board* board = window->currentBoard();
+        int guard = 0;
+        while (!board->isComplete() && guard++ < 81) {
+            if (firstEmpty(*window) == -1) break;
+            const int empty = firstEmpty(*window);
+            if (board->historySize() % 2)
+                action(*window, "actionMakeMove")->trigger();
+            else
+                window->tileValueEdited(empty, board->solutionValue(empty));
+        }
+        QVERIFY(board->isComplete());
+        QCOMPARE(answerer.texts.last(), QString("Congratulations!"));
+        QCOMPARE(window->highlight(), 0);
+        // Make move on the complete board: no move, and the board is still complete.
+        action(*window, "actionMakeMove")->trigger();
+        QCOMPARE(answerer.texts.mid(answerer.texts.size() - 2),
+                 (QStringList{"No more moves can be done.", "Congratulations!"}));
+    }
+
+    void viewOptions() {
+        auto* toolbar = window->findChild<QToolBar*>("mainToolBar");
+        action(*window, "actionViewToolbar")->trigger();
+        QVERIFY(toolbar->isHidden());
+        action(*window, "actionViewToolbar")->trigger();
+        QVERIFY(toolbar->isVisible());
+        action(*window, "actionViewStatusbar")->trigger();
+        QVERIFY(window->statusBar()->isHidden());
+        window->viewNewGameIcons(false);
+        QVERIFY(!action(*window, "actionNewGameEasy")->isVisible());
+        QVERIFY(action(*window, "actionNewGameCompleted")->isVisible());
+        window->viewNewGameIcons(true);
+        QVERIFY(action(*window, "actionNewGameEasy")->isVisible());
+        window->viewAboutIcon(false);
+        QVERIFY(!action(*window, "actionAbout")->isVisible());
+
+        // Pencil marks on all tiles.
+        const int empty = firstEmpty(*window);
+        auto* label = window->tileAt(empty)->findChild<QLabel*>("lbl1");
+        QVERIFY(label->isHidden());
+        action(*window, "actionViewPencilMarks")->trigger();
+        QVERIFY(label->isVisible());
+
+        action(*window, "actionViewPencilMarksOptions")->trigger();
+        auto& dialog = window->pencilMarksDialog();
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.frameGeometry().left(), window->frameGeometry().right() + 1);
+        QCOMPARE(dialog.frameGeometry().top(), window->frameGeometry().top());
+    }
+
+    void rulesFromTheDialog() {
+        std::srand(77);
+        MessageBoxAnswerer answerer;
+        action(*window, "actionNewGameHard")->trigger();
+        action(*window, "actionViewPencilMarks")->trigger();
+        eng::Board* board = window->currentBoard();
+        const size_t before = board->historySize();
+        window->applyPencilmarksRule(eng::ruleHiddenSingles);
+        window->applyPencilmarksRule(eng::ruleLockedByRows);
+        window->applyPencilmarksRule(eng::ruleDoubles);
+        QVERIFY(board->historySize() > before);
+        bool marked = false;  // removed candidates show white on red
+        for (int i = 0; i < 81 && !marked; ++i)
+            for (int v = 1; v <= 9 && !marked; ++v)
+                marked = window->tileAt(i)->findChild<QLabel*>(QString("lbl%1").arg(v))->styleSheet() ==
+                         Tile::stylePotentialRemoved;
+        QVERIFY(marked);
+        savePicture(*window, "window_rules_applied");
+    }
+
+    void saveAndOpen() {
+        QTemporaryDir dir;
+        const QString path = dir.filePath("game.sud");
+        window->setFileNameProvider([&](SudokuWindow::FileRequest) { return path; });
+        action(*window, "actionMakeMove")->trigger();
+        action(*window, "actionMakeMove")->trigger();
+        window->tilePotentialsEdited(firstEmpty(*window), 9);
+        action(*window, "actionRetractMove")->trigger();
+        const auto shown = shownValues(*window);
+        std::vector<bool> marks;
+        eng::Board* board = window->currentBoard();
+        for (int i = 0; i < 81; ++i)
+            for (int v = 1; v <= 9; ++v) marks.push_back(board->cell(i)->isPotential(v));
+        action(*window, "actionSaveGame")->trigger();
+        QVERIFY(QFileInfo(path).size() > 1836);
+
+        MessageBoxAnswerer answerer;
+        action(*window, "actionNewGameEasy")->trigger();
+        action(*window, "actionOpenGame")->trigger();
+        QVERIFY(answerer.texts.size() == 1);  // only the new-game question
+        QCOMPARE(shownValues(*window), shown);
+        board = window->currentBoard();
+        std::vector<bool> loadedMarks;
+        for (int i = 0; i < 81; ++i)
+            for (int v = 1; v <= 9; ++v) loadedMarks.push_back(board->cell(i)->isPotential(v));
+        QCOMPARE(loadedMarks, marks);
+        QCOMPARE(board->undoneSize(), 1u);
+        action(*window, "actionMakeMove")->trigger();  // the retracted move comes back first
+        QCOMPARE(board->undoneSize(), 0u);
+    }
+
+    void refusedFilesKeepTheGame() {
+        QTemporaryDir dir;
+        MessageBoxAnswerer answerer;
+        const auto shown = shownValues(*window);
+        eng::Board* board = window->currentBoard();
+        struct Case {
+            QByteArray bytes;
+            QStringList texts;
+        };
+        const QByteArray v3("\x08\x00\x00\x00version=\x03\x00\x00\x00", 16);
+        const QByteArray wrongTag("\x08\x00\x00\x00versioN=\x02\x00\x00\x00", 16);
+        const Case cases[] = {
+            {v3, {"Loaded file version is incompatible\n(expected version: 2 actual version: 3)", "Failed to load game"}},
+            {wrongTag, {"This is not a valid .sud file", "Failed to load game"}},
+            {QByteArray("plain text, not a game"), {"Failed to load game"}},
+        };
+        for (const Case& c : cases) {
+            const QString path = dir.filePath("bad.sud");
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            f.write(c.bytes);
+            f.close();
+            answerer.texts.clear();
+            window->setFileNameProvider([&](SudokuWindow::FileRequest) { return path; });
+            action(*window, "actionOpenGame")->trigger();
+            QCOMPARE(answerer.texts, c.texts);
+            QCOMPARE(window->currentBoard(), board);
+            QCOMPARE(shownValues(*window), shown);
+        }
+        answerer.texts.clear();
+        window->setFileNameProvider([&](SudokuWindow::FileRequest) { return dir.filePath("missing.sud"); });
+        action(*window, "actionOpenGame")->trigger();
+        QCOMPARE(answerer.texts, QStringList{"Failed to load game"});
+        window->setFileNameProvider([&](SudokuWindow::FileRequest) { return QString(); });
+        action(*window, "actionOpenGame")->trigger();  // cancelled: nothing
+        QCOMPARE(answerer.texts.size(), 1);
+        window->setFileNameProvider([&](SudokuWindow::FileRequest) { return dir.filePath("no/such/dir/x.sud"); });
+        action(*window, "actionSaveGame")->trigger();
+        QCOMPARE(answerer.texts.last(), QString("Failed to save game"));
+        // The game is still playable.
+        action(*window, "actionMakeMove")->trigger();
+        QVERIFY(shownValues(*window) != shown);
+    }
+
+    void inputDuringBusyCommandsIsIgnored() {
+        // Clicks and commands that arrive while the engine reports (events are
+        // processed inside the notification) must not act on the board.
+        eng::Board* board = window->currentBoard();
+        const size_t before = board->historySize();
+        QTimer::singleShot(0, window, [this] {
+            action(*window, "actionNewGameHard")->trigger();
+            action(*window, "actionOpenGame")->trigger();
+            action(*window, "actionMakeMove")->trigger();
+        });
+        action(*window, "actionMakeMove")->trigger();
+        QCOMPARE(window->currentBoard(), board);
+        QVERIFY(board->historySize() <= before + 2);
+    }
+
+    // Last: closing the window asks the application to quit, which ends every
+    // event loop that starts afterwards in this process.
+    void closingClosesTheOptionsDialog() {
+        action(*window, "actionViewPencilMarksOptions")->trigger();
+        QVERIFY(window->pencilMarksDialog().isVisible());
+        action(*window, "actionExit")->trigger();
+        QVERIFY(!window->pencilMarksDialog().isVisible());
+        QVERIFY(!window->isVisible());
+    }
+};
+
+QTEST_MAIN(WindowTest)
+#include "test_window.moc"
