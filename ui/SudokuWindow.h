@@ -48,6 +48,8 @@ public:
     PrintingInfo& printingOptions() { return printingInfo; }
     PencilMarksOptions& pencilMarksDialog() { return pencilMarksOptions; }
     QString levelText() const;
+    // A4 portrait, full page, no margins: how every print starts.
+    static void preparePrinter(QPrinter& printer);
     bool isBusy() const { return busy > 0; }
 
 public slots:

@@ -25,10 +25,7 @@ void SudokuWindow::printGame() {
     }
     QPrinter printer(printingInfo.highResolution() ? QPrinter::HighResolution : QPrinter::ScreenResolution);
     if (printingInfo.exportToPdf()) printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setFullPage(true);
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setPageOrientation(QPageLayout::Portrait);
-    printer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
+    preparePrinter(printer);
 
     if (printingInfo.showPrintPreview()) {
         BusyScope scope(busy);
@@ -52,6 +49,13 @@ void SudokuWindow::printGame() {
         if (dialog.exec() != QDialog::Accepted) return;
     }
     doPainting(&printer);
+}
+
+void SudokuWindow::preparePrinter(QPrinter& printer) {
+    printer.setFullPage(true);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageOrientation(QPageLayout::Portrait);
+    printer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
 }
 
 void SudokuWindow::doPainting(QPrinter* printer) {

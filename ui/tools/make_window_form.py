@@ -165,7 +165,8 @@ toolbar = ('<widget class="QToolBar" name="mainToolBar">' + string('windowTitle'
 statusbar = '<widget class="QStatusBar" name="statusBar">' + prop('sizeGripEnabled', '<bool>false</bool>') + '</widget>'
 
 window = ('<widget class="QMainWindow" name="SudokuWindowClass">' + rect(0, 0, 609, 709) + policy('Fixed', 'Fixed')
-          + size('baseSize', 593, 695) + prop('contextMenuPolicy', '<enum>Qt::NoContextMenu</enum>')
+          + size('baseSize', 593, 695) + prop('font', '<font><pointsize>8</pointsize></font>')
+          + prop('contextMenuPolicy', '<enum>Qt::NoContextMenu</enum>')
           + string('windowTitle', 'Sudoku Vantu') + central + menubar + toolbar + statusbar + ''.join(ACTIONS) + '</widget>')
 
 CONNECTIONS = [
