@@ -5,19 +5,30 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh
 jobs=$(nproc)
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
 
 echo "== Build and test"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DSUDOKU_BUILD_BENCH=ON > /dev/null
 cmake --build build -j"$jobs"
-ctest --test-dir build --output-on-failure -j"$jobs"
+ctest --test-dir build --output-on-failure -j"$jobs" | tee -a "$log"
 
 echo "== Engine tests with sanitizers"
 cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DSUDOKU_BUILD_UI=OFF -DSUDOKU_SANITIZE=ON > /dev/null
 cmake --build build-asan -j"$jobs" --target engine_tests
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
-  ctest --test-dir build-asan --output-on-failure -j"$jobs"
+  ctest --test-dir build-asan --output-on-failure -j"$jobs" | tee -a "$log"
 
-if [ -f scripts/fuzz.sh ]; then
-  echo "== Fuzzing the saved-game reader"
-  bash scripts/fuzz.sh "${SUDOKU_FUZZ_SECONDS:-45}"
-fi
+echo "== Fuzzing the saved-game reader"
+bash scripts/fuzz.sh "${SUDOKU_FUZZ_SECONDS:-45}"
+
+# One closing line for both test runs.
+passed=0
+total=0
+while read -r p t; do
+  passed=$((passed + p))
+  total=$((total + t))
+done < <(sed -n 's/^.*tests passed, \([0-9]*\) tests failed out of \([0-9]*\)$/\1 \2/p' "$log" |
+         awk '{print $2 - $1, $2}')
+echo
+echo "tests: $passed passed, $((total - passed)) failed"

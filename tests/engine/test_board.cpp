@@ -281,8 +281,9 @@ TEST_F(UserEditGame, RemovingACandidateIsCheckedForConsistency) {
     // cell 22 leaves three cells for two values, which the consistency check sees.
     auto keepOnly = [&](int cell, std::initializer_list<int> keep) {
         for (int v = 1; v <= 9; ++v)
-            if (std::find(keep.begin(), keep.end(), v) == keep.end() && board.cell(cell)->isPotential(v))
+            if (std::find(keep.begin(), keep.end(), v) == keep.end() && board.cell(cell)->isPotential(v)) {
                 ASSERT_TRUE(board.togglePotential(cell, v)) << cell << " " << v;
+            }
     };
     keepOnly(20, {5, 6});
     keepOnly(21, {5, 6});
@@ -321,8 +322,11 @@ TEST_F(UserEditGame, MakeMoveCompletesAnEnteredGrid) {
     Board source(nullptr);
     ASSERT_TRUE(source.generate(lvlCompleted));
     const auto grid = testing_support::values(source);
-    for (int i = 0; i < 81; i += 1)
-        if (i % 5 != 0) ASSERT_TRUE(board.setValue(i, grid[i]));
+    for (int i = 0; i < 81; ++i) {
+        if (i % 5 != 0) {
+            ASSERT_TRUE(board.setValue(i, grid[i]));
+        }
+    }
     int moves = 0;
     while (!board.isComplete() && moves < 200) {
         if (!board.makeMove()) break;
@@ -350,7 +354,9 @@ TEST(UserEditRobustness, RandomEntriesAndMovesKeepTheBoardSane) {
         }
         for (int i = 0; i < 81; ++i) {
             const CellInfo* c = board.cell(i);
-            if (c->value()) EXPECT_TRUE(c->isPotential(c->value())) << "seed " << seed << " cell " << i;
+            if (c->value()) {
+                EXPECT_TRUE(c->isPotential(c->value())) << "seed " << seed << " cell " << i;
+            }
         }
     }
 }

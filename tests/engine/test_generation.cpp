@@ -47,7 +47,9 @@ TEST_P(GradedLevels, PuzzlesAreGradedAndConsistent) {
         expectGivensAgreeWithSolution(board);
         EXPECT_FALSE(board.isComplete());
         // Never solved by the next easier preset, always by the level's own.
-        if (level >= lvlEasy) EXPECT_FALSE(testing_support::presetSolvesValues(board, level - 2));
+        if (level >= lvlEasy) {
+            EXPECT_FALSE(testing_support::presetSolvesValues(board, level - 2));
+        }
         EXPECT_TRUE(testing_support::presetSolvesValues(board, level == lvlVeryEasy ? 0 : level - 1));
     }
 }
