@@ -65,9 +65,14 @@ void Board::clear() {
 // ---------------------------------------------------------------------------
 // Rule passes and value placement
 
-bool Board::runRules(BoardSnapshot& s, RuleSolver& solver, bool& changed) {
+namespace {
+
+// Runs a rule pass; a contradiction composes its description, which is then
+// dropped, and the pass counts as failed.
+template <typename Pass>
+bool guarded(Pass pass) {
     try {
-        changed = solver.applyAll(s);
+        pass();
         return true;
     } catch (ExCellConflict& conflict) {
         conflict.describe();
@@ -77,16 +82,14 @@ bool Board::runRules(BoardSnapshot& s, RuleSolver& solver, bool& changed) {
     return false;
 }
 
+}  // namespace
+
+bool Board::runRules(BoardSnapshot& s, RuleSolver& solver, bool& changed) {
+    return guarded([&] { changed = solver.applyAll(s); });
+}
+
 bool Board::runRulesFromValues(RuleSolver& solver, BoardSnapshot& s) {
-    try {
-        solver.applyAllFromValues(s);
-        return true;
-    } catch (ExCellConflict& conflict) {
-        conflict.describe();
-    } catch (ExTupleConflict& conflict) {
-        conflict.describe();
-    }
-    return false;
+    return guarded([&] { solver.applyAllFromValues(s); });
 }
 
 bool Board::isConsistent(const BoardSnapshot& s) {

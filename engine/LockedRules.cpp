@@ -27,35 +27,27 @@ namespace {
 constexpr int kLines[3][3] = {{0, 1, 2}, {3, 4, 5}, {6, 7, 8}};
 constexpr int kColumns[3][3] = {{0, 3, 6}, {1, 4, 7}, {2, 5, 8}};
 
+// A value locked into a segment of a line leaves the rest of the segment's square.
+template <typename Line>
+bool lockedInLines(Line (&lines)[9], Square (&squares)[9]) {
+    bool changed = false;
+    std::list<int> values;
+    Cell *a, *b, *c;
+    for (Line& line : lines) {
+        if (line.cells.size() != 9 || !line.anyModified()) continue;
+        for (const auto& seg : kLines) {
+            line.findLockedValues(seg[0], seg[1], seg[2], a, b, c, values);
+            for (int v : values) changed = squares[a->square()].removeFromOthers(v, a, b, c) || changed;
+        }
+    }
+    return changed;
+}
+
 }  // namespace
 
-bool RuleSolver::applyLockedByRows() {
-    bool changed = false;
-    std::list<int> values;
-    Cell *a, *b, *c;
-    for (Row& row : rows) {
-        if (row.cells.size() != 9 || !row.anyModified()) continue;
-        for (const auto& seg : kLines) {
-            row.findLockedValues(seg[0], seg[1], seg[2], a, b, c, values);
-            for (int v : values) changed = squares[a->square()].removeFromOthers(v, a, b, c) || changed;
-        }
-    }
-    return changed;
-}
+bool RuleSolver::applyLockedByRows() { return lockedInLines(rows, squares); }
 
-bool RuleSolver::applyLockedByCols() {
-    bool changed = false;
-    std::list<int> values;
-    Cell *a, *b, *c;
-    for (Column& column : columns) {
-        if (column.cells.size() != 9 || !column.anyModified()) continue;
-        for (const auto& seg : kLines) {
-            column.findLockedValues(seg[0], seg[1], seg[2], a, b, c, values);
-            for (int v : values) changed = squares[a->square()].removeFromOthers(v, a, b, c) || changed;
-        }
-    }
-    return changed;
-}
+bool RuleSolver::applyLockedByCols() { return lockedInLines(columns, squares); }
 
 bool RuleSolver::applyLockedBySquares() {
     bool changed = false;

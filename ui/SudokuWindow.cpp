@@ -217,15 +217,20 @@ void SudokuWindow::placePencilCaret(int index) {
     tiles[index]->showPencilCaret();
 }
 
-void SudokuWindow::tileLeftClicked(int index) {
-    if (!board || busy || index < 0 || index > 80) return;
+// What a click with either button does first: clear the change marks of the
+// candidates, and take the caret away. Returns false when the click only took
+// the caret from the clicked tile itself, or cannot act at all.
+bool SudokuWindow::beginTileClick(int index) {
+    if (!board || busy || index < 0 || index > 80) return false;
     if (pencilMarksShown())
         for (Tile* tile : tiles) tile->resetPotentialStyles();
-    if (caretIndex == index) {
-        hideCaretIfAny();
-        return;
-    }
+    const bool onCaret = caretIndex == index;
     hideCaretIfAny();
+    return !onCaret;
+}
+
+void SudokuWindow::tileLeftClicked(int index) {
+    if (!beginTileClick(index)) return;
     if (tiles[index]->hasValue()) {
         toggleHighlight(tiles[index]->value());
         return;
@@ -236,15 +241,7 @@ void SudokuWindow::tileLeftClicked(int index) {
 }
 
 void SudokuWindow::tileRightClicked(int index) {
-    if (!board || busy || index < 0 || index > 80) return;
-    if (pencilMarksShown())
-        for (Tile* tile : tiles) tile->resetPotentialStyles();
-    if (caretIndex == index) {
-        hideCaretIfAny();
-        return;
-    }
-    hideCaretIfAny();
-    placePencilCaret(index);
+    if (beginTileClick(index)) placePencilCaret(index);
 }
 
 void SudokuWindow::tileLeftDoubleClicked(int) {}

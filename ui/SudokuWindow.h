@@ -125,6 +125,7 @@ private:
     void placePencilCaret(int index);
     void celebrate();
     void enterValue(int index, int value);
+    bool beginTileClick(int index);
     void hideCaretIfAny();
     void updateTiles(const std::vector<eng::CellInfo*>& cells, bool mark);
     bool pencilMarksShown() const;

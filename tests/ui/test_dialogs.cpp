@@ -13,15 +13,9 @@
 #include "AboutDialog.h"
 #include "PencilMarksOptions.h"
 #include "PrintingInfo.h"
+#include "TestPictures.h"
 
 namespace {
-
-void savePicture(QWidget& w, const QString& name) {
-    const QString dir = qEnvironmentVariable("SUDOKU_TEST_OUTPUT");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    w.grab().save(dir + "/" + name + ".png");
-}
 
 template <typename T>
 T* child(QWidget& w, const char* name) {

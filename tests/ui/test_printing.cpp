@@ -15,6 +15,7 @@
 
 #include "PrintLayout.h"
 #include "SudokuWindow.h"
+#include "TestPictures.h"
 #include "WindowTestSupport.h"
 
 namespace {
@@ -101,13 +102,6 @@ void expectInkOnlyIn(const QImage& page, const QVector<QRectF>& rectsMm) {
                 }
         QVERIFY(rowsWithInk > px.height() * 0.8);
     }
-}
-
-void savePicture(const QImage& image, const QString& name) {
-    const QString dir = qEnvironmentVariable("SUDOKU_TEST_OUTPUT");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    image.save(dir + "/" + name + ".png");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include "TestPictures.h"
 #include "Tile.h"
 
 namespace {
@@ -22,11 +23,8 @@ eng_priv::Cell cellWith(int index, int value, int origin, std::list<int> candida
 QLabel* candidate(Tile& tile, int v) { return tile.findChild<QLabel*>(QString("lbl%1").arg(v)); }
 QLabel* valueLabel(Tile& tile) { return tile.findChild<QLabel*>("lblValue"); }
 
-void savePicture(Tile& tile, const QString& name) {
-    const QString dir = qEnvironmentVariable("SUDOKU_TEST_OUTPUT");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    tile.grab(QRect(0, 0, 61, 61)).scaled(122, 122).save(dir + "/tile_" + name + ".png");
+void saveTile(Tile& tile, const QString& name) {
+    savePicture(tile.grab(QRect(0, 0, 61, 61)).scaled(122, 122).toImage(), "tile_" + name);
 }
 
 }  // namespace
@@ -75,12 +73,12 @@ private slots:
             QCOMPARE(candidate(*tile, v)->isEnabled(), on);
             QCOMPARE(candidate(*tile, v)->styleSheet(), on ? Tile::stylePotentialOn : Tile::stylePotentialOff);
         }
-        savePicture(*tile, "pencil_marks");
+        saveTile(*tile, "pencil_marks");
         // An update that removes candidate 5 with marking shows it white on red.
         tile->updateFromCell(cellWith(37, 0, 0, {1, 2}), true);
         QCOMPARE(candidate(*tile, 5)->styleSheet(), Tile::stylePotentialRemoved);
         QCOMPARE(candidate(*tile, 3)->styleSheet(), Tile::stylePotentialOff);
-        savePicture(*tile, "removed_marks");
+        saveTile(*tile, "removed_marks");
         tile->resetPotentialStyles();
         QCOMPARE(candidate(*tile, 5)->styleSheet(), Tile::stylePotentialOff);
         // Switching to the state in force changes nothing.
@@ -96,7 +94,7 @@ private slots:
         QCOMPARE(valueLabel(*tile)->styleSheet(), Tile::styleValueNormal);
         QVERIFY(tile->hasValue());
         QCOMPARE(tile->value(), 4);
-        savePicture(*tile, "given");
+        saveTile(*tile, "given");
 
         Tile other;
         other.show();
@@ -106,7 +104,7 @@ private slots:
         QCOMPARE(other.styleSheet(), Tile::styleTileNormal);
         QCOMPARE(valueLabel(other)->styleSheet(), Tile::styleValueByMove);
         for (int v = 1; v <= 9; ++v) QVERIFY(candidate(other, v)->isHidden());
-        savePicture(other, "placed_by_move");
+        saveTile(other, "placed_by_move");
         other.updateFromCell(cellWith(1, 6, eng::originMove), true);  // unchanged: black again
         QCOMPARE(valueLabel(other)->styleSheet(), Tile::styleValueNormal);
         other.updateFromCell(cellWith(1, 0, 0), false);
@@ -123,12 +121,12 @@ private slots:
         QCOMPARE(tile->styleSheet(), Tile::styleValueCaret);
         tile->updateFromCell(cellWith(37, 0, 0), false);
         QCOMPARE(tile->styleSheet(), Tile::styleValueCaret);  // updates keep the caret colour
-        savePicture(*tile, "value_caret");
+        saveTile(*tile, "value_caret");
         QCOMPARE(tile->hideCaret(), Tile::ValueCaret);
         QCOMPARE(tile->styleSheet(), Tile::styleTileNormal);
         tile->showPencilCaret();
         QCOMPARE(tile->styleSheet(), Tile::stylePencilCaret);
-        savePicture(*tile, "pencil_caret");
+        saveTile(*tile, "pencil_caret");
         QCOMPARE(tile->hideCaret(), Tile::PencilCaret);
 
         // A highlighted given returns to grey when the highlight ends.
@@ -138,7 +136,7 @@ private slots:
         tile->highlightValue(4, 0);
         QCOMPARE(tile->styleSheet(), Tile::styleHighlight);
         QVERIFY(tile->isHighlighted());
-        savePicture(*tile, "highlight");
+        saveTile(*tile, "highlight");
         tile->highlightValue(4, 4);  // re-applied: keeps the sheet saved before
         tile->highlightValue(0, 4);
         QCOMPARE(tile->styleSheet(), Tile::styleTileGiven);

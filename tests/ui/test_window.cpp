@@ -11,16 +11,10 @@
 #include <fstream>
 
 #include "SudokuWindow.h"
+#include "TestPictures.h"
 #include "WindowTestSupport.h"
 
 namespace {
-
-void savePicture(QWidget& w, const QString& name) {
-    const QString dir = qEnvironmentVariable("SUDOKU_TEST_OUTPUT");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    w.grab().save(dir + "/" + name + ".png");
-}
 
 QAction* action(SudokuWindow& w, const char* name) { return w.findChild<QAction*>(name); }
 
