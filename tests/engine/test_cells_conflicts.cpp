@@ -1,0 +1,151 @@
+// Cells, tuples, positions and the texts of the two conflict kinds.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "BoardSnapshot.h"
+#include "Conflicts.h"
+#include "Tuple.h"
+
+using eng::ExCellConflict;
+using eng::ExTupleConflict;
+using eng_priv::BoardSnapshot;
+using eng_priv::Cell;
+
+namespace {
+
+template <typename F>
+int cellConflictKind(F f) {
+    try {
+        f();
+    } catch (ExCellConflict& e) {
+        return e.kind;
+    }
+    return -1;
+}
+
+}  // namespace
+
+TEST(Conflicts, CellDescriptions) {
+    ExCellConflict c(0, 12, 5);
+    EXPECT_STREQ(c.describe(), "Conflict at cell index=12value=5details: Cannot set this value. It's in conflict");
+    EXPECT_EQ(std::string(c.describe()), c.message);  // describing twice keeps one copy
+    EXPECT_STREQ(ExCellConflict(4, -1, 0).describe(),
+                 "Conflict at cell index=-1value=0details: Too many guesses goes in conflicts. Aborting.");
+    EXPECT_STREQ(ExCellConflict(7, 3, 1).describe(),
+                 "Conflict at cell index=3value=1details: Unknown conflict type. Please report this error.");
+    EXPECT_STREQ(ExCellConflict(2, 0, 9).describe(),
+                 "Conflict at cell index=0value=9details: Cannot remove an inexistent potential value.");
+}
+
+TEST(Conflicts, TupleDescriptions) {
+    EXPECT_STREQ(ExTupleConflict(1, "row", 2, {4, 7}, {1, 3, 5}).describe(),
+                 "Conflict: On row 3: cannot distribute values: 4, 7 to cells: 1st, 3rd, 5th  (too many cells, "
+                 "to few values)");
+    EXPECT_STREQ(ExTupleConflict(0, "square", 8, {6}, {0}).describe(),
+                 "Conflict: On square 9: cannot distribute values: 6 to cells: 0th  (too many values, to few cells)");
+    EXPECT_STREQ(ExTupleConflict(0, "column", 0, {1, 2}, {2, 4, 8}).describe(),
+                 "Conflict: On column 1: cannot distribute values: 1, 2 to cells: 2nd, 4th, 8th  (too many values, "
+                 "to few cells)");
+    EXPECT_STREQ(ExTupleConflict(2, "row", 0, {1}, {1}).describe(),
+                 "Conflict: Unknown conflict type on tuple. Please report this error.");
+}
+
+TEST(Cells, IndexDerivesRowColumnSquare) {
+    Cell c;
+    EXPECT_EQ(c.index(), -1);
+    EXPECT_EQ(c.potentialCount, 9);
+    c.reset(30);
+    EXPECT_EQ(c.row(), 3);
+    EXPECT_EQ(c.column(), 3);
+    EXPECT_EQ(c.square(), 4);
+    c.reset(80);
+    EXPECT_EQ(c.square(), 8);
+    c.setIndex(-1);
+    EXPECT_EQ(c.row(), -1);
+    EXPECT_EQ(c.column(), -1);
+    EXPECT_EQ(c.square(), -1);
+}
+
+TEST(Cells, OperationsAndTheirConflicts) {
+    Cell c;
+    c.reset(10);
+    EXPECT_TRUE(c.setSinglePotential(4));
+    EXPECT_TRUE(c.modified);
+    c.modified = false;
+    EXPECT_FALSE(c.setSinglePotential(4));
+    EXPECT_FALSE(c.modified);
+    EXPECT_EQ(cellConflictKind([&] { c.setSinglePotential(5); }), 1);
+    EXPECT_EQ(cellConflictKind([&] { c.setValue(5, 2); }), 0);
+    c.setValue(4, 2);
+    EXPECT_EQ(c.value(), 4);
+    EXPECT_EQ(c.origin(), 2);
+
+    Cell d;
+    d.reset(11);
+    d.keepOnlyPotentials({2, 5});
+    EXPECT_FALSE(d.removePotential(3, false));
+    EXPECT_EQ(cellConflictKind([&] { d.removePotential(3, true); }), 2);
+    EXPECT_TRUE(d.removePotential(2, true));
+    try {
+        d.removePotential(5, true);
+        FAIL();
+    } catch (ExCellConflict& e) {
+        EXPECT_EQ(e.kind, 3);
+        EXPECT_EQ(e.cellIndex, 11);
+        EXPECT_EQ(e.value, 0);
+    }
+    Cell e;
+    EXPECT_EQ(cellConflictKind([&] { e.keepOnlyPotentials({}); }), 3);
+
+    Cell a, b;
+    a.keepOnlyPotentials({2, 5});
+    b.keepOnlyPotentials({5, 2});
+    EXPECT_FALSE(a.sharesExactlyOne(b));
+    EXPECT_EQ(a.firstCommonPotential(b), 2);
+    b.keepOnlyPotentials({5});
+    EXPECT_TRUE(a.sharesExactlyOne(b));
+    std::vector<int> values{7};
+    a.potentials(values);
+    EXPECT_EQ(values, (std::vector<int>{2, 5}));
+}
+
+TEST(Tuples, RemovalKeepsCellsMatchedByIndex) {
+    BoardSnapshot s;
+    eng_priv::Row row;
+    row.init(0);
+    EXPECT_EQ(row.name(), "row");
+    for (int i = 0; i < 9; ++i) row.addCell(&s.cells[i]);
+    BoardSnapshot other;  // a kept cell from another copy of the position
+    EXPECT_TRUE(row.removeFromOthers(5, &other.cells[0]));
+    EXPECT_TRUE(s.cells[0].isPotential(5));
+    EXPECT_FALSE(s.cells[1].isPotential(5));
+    EXPECT_TRUE(s.cells[1].modified);
+    EXPECT_FALSE(row.removeFromOthers(5, &s.cells[0]));
+}
+
+TEST(Snapshots, CopiesAndEmptyCells) {
+    BoardSnapshot s;
+    s.guess = eng_priv::Guess(4, 7);
+    s.cells[4].setSinglePotential(7);
+    s.cells[4].setValue(7, 3);
+    BoardSnapshot* copy = s.copy();
+    EXPECT_EQ(copy->guess.index, -1);
+    EXPECT_EQ(copy->guess.value, 0);
+    EXPECT_EQ(copy->cells[4].value(), 7);
+    EXPECT_EQ(copy->cells[4].origin(), 3);
+    EXPECT_TRUE(copy->cells[4].modified);
+    EXPECT_EQ(copy->cells[40].row(), 4);
+    std::vector<Cell*> empty;
+    EXPECT_TRUE(copy->emptyCells(empty));
+    EXPECT_EQ(empty.size(), 80u);
+    delete copy;
+    BoardSnapshot full;
+    for (int i = 0; i < 81; ++i) {
+        const int v = (i * 3 + i / 9 + (i / 27)) % 9 + 1;
+        full.cells[i].setSinglePotential(v);
+        full.cells[i].setValue(v, 1);
+    }
+    EXPECT_FALSE(full.emptyCells(empty));
+    EXPECT_TRUE(empty.empty());
+}
