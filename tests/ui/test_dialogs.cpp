@@ -9,6 +9,7 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QtTest>
+#include <set>
 
 #include "AboutDialog.h"
 #include "PencilMarksOptions.h"
@@ -88,11 +89,29 @@ private slots:
         QCOMPARE(dialog.windowTitle(), QString("Pencil Marks Options"));
         QVERIFY(!child<QDialogButtonBox>(dialog, "buttonBox")->isEnabled());
 
-        // Down on the last row neither moves nor marks the dialog.
+        // Up on the first row and down on the last row move nothing and leave
+        // the dialog clean, but still hand the focus to the list.
+        auto* toDst = child<QPushButton>(dialog, "btnToDst");
+        dest->setCurrentRow(0);
+        toDst->setFocus();
+        child<QPushButton>(dialog, "btnUp")->click();
+        QCOMPARE(dialog.focusWidget(), static_cast<QWidget*>(dest));
         dest->setCurrentRow(2);
-        dialog.moveCurrentItemDown();
+        toDst->setFocus();
+        child<QPushButton>(dialog, "btnDown")->click();
+        QCOMPARE(dialog.focusWidget(), static_cast<QWidget*>(dest));
         QCOMPARE(dialog.windowTitle(), QString("Pencil Marks Options"));
-        QCOMPARE(dialog.selectedRules().back(), eng::ruleDoubles);
+        QCOMPARE(dialog.selectedRules(),
+                 (std::list<eng::Rules>{eng::ruleHiddenSingles, eng::ruleSingles, eng::ruleDoubles}));
+
+        // Down in the middle moves the entry and marks the dialog again.
+        dest->setCurrentRow(0);
+        child<QPushButton>(dialog, "btnDown")->click();
+        QCOMPARE(dialog.selectedRules(),
+                 (std::list<eng::Rules>{eng::ruleSingles, eng::ruleHiddenSingles, eng::ruleDoubles}));
+        QCOMPARE(dest->currentItem()->text(), QString("12. Hidden Singles"));
+        QCOMPARE(dialog.windowTitle(), QString("Pencil Marks Options*"));
+        child<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Apply)->click();
 
         // Reordering "Available:" does not mark the dialog modified.
         src->setCurrentRow(3);
@@ -100,7 +119,13 @@ private slots:
         QCOMPARE(src->item(4)->text(), QString("03. Singles Row + Col Only"));
         QCOMPARE(dialog.windowTitle(), QString("Pencil Marks Options"));
 
-        // A list left without a current row is safe to press down on.
+        // A list without a current row has nothing to move; the buttons stay
+        // safe and no entry is lost.
+        dest->setCurrentItem(nullptr);
+        dialog.dstSelectionChanged();
+        dialog.moveCurrentItemDown();
+        dialog.moveCurrentItemUp();
+        QCOMPARE(dest->count(), 3);
         dest->selectAll();
         child<QPushButton>(dialog, "btnToSrc")->click();
         QVERIFY(dialog.selectedRules().empty());
@@ -108,9 +133,20 @@ private slots:
         dialog.moveCurrentItemUp();
         QCOMPARE(src->count(), 16);
 
+        // Everything selected: sixteen distinct rules in the order of the list.
         src->selectAll();
-        child<QPushButton>(dialog, "btnToDst")->click();
-        QCOMPARE(dialog.selectedRules().size(), 16u);
+        toDst->click();
+        child<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Apply)->click();
+        QCOMPARE(applied.count(), 3);
+        const std::list<eng::Rules> all = dialog.selectedRules();
+        QCOMPARE(all.size(), 16u);
+        int row = 0, bits = 0;
+        for (eng::Rules rule : all) {
+            QCOMPARE(int(rule), dest->item(row++)->data(Qt::UserRole).toInt());
+            bits |= rule;
+        }
+        QCOMPARE(bits, 0x3fff);
+        QCOMPARE(std::set<eng::Rules>(all.begin(), all.end()).size(), 16u);
     }
 
     void doubleClickAppliesOneRule() {
@@ -130,6 +166,8 @@ private slots:
         QCOMPARE(dialog.windowTitle(), QString("Pencil Marks Options"));
         dialog.dstItemDoubleClicked(child<QListWidget>(dialog, "lstDest")->item(0));
         QCOMPARE(rule.at(1).at(0).value<eng::Rules>(), eng::ruleSingles);
+        QCOMPARE(dialog.selectedRules(), std::list<eng::Rules>{eng::ruleSingles});
+        QCOMPARE(dialog.windowTitle(), QString("Pencil Marks Options"));
     }
 
     void printingInfoDefaultsAndQueries() {
