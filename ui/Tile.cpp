@@ -175,13 +175,16 @@ bool Tile::pause() {
     return true;
 }
 
-// Input that arrives on this tile while one of its animations runs is ignored
-// (the animation owns the labels until it ends), and a nested animation call on
-// the same tile returns at once.
+// Re-entry: the animations process events, so clicks, keys and even another
+// animation call can reach this tile before they end. Mouse and key input on an
+// animating tile is dropped (keys go on to the parent as ignored keys), and a
+// nested animation call returns at once, so the labels have one owner until the
+// final state is set. The window also ignores board input while it animates; if
+// the tile is destroyed meanwhile, pause() notices and the animation stops
+// without touching it again.
 void Tile::rejectValue() {
     if (animating) return;
     animating = true;
-    QPointer<Tile> self(this);
     setStyleSheet(styleRejectedValue);
     for (int step = 0; step < kAnimationSteps; ++step) {
         if (!pause()) return;

@@ -5,6 +5,6 @@ here="$(cd "$(dirname "$0")" && pwd)"
 out="$(dirname "$here")"
 tmp="$(mktemp -d)"
 g++ -std=c++17 -fPIC "$here/make_icons.cpp" -o "$tmp/make_icons" $(pkg-config --cflags --libs Qt5Gui)
-"$tmp/make_icons" "$out"
+QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" "$tmp/make_icons" "$out"
 python3 "$here/make_cuckoo.py" "$out/cuckoo.wav"
 rm -rf "$tmp"

@@ -15,8 +15,9 @@ def note(freq, seconds, volume=0.55):
         t = i / RATE
         attack = min(1.0, t / 0.02)
         decay = math.exp(-3.5 * t / seconds)
+        release = min(1.0, (n - 1 - i) / (RATE * 0.015))  # no click at the end of a note
         tone = math.sin(2 * math.pi * freq * t) + 0.25 * math.sin(4 * math.pi * freq * t)
-        samples.append(volume * attack * decay * tone / 1.25)
+        samples.append(volume * attack * decay * release * tone / 1.25)
     return samples
 
 

@@ -1,5 +1,7 @@
 // The cell widget: display states, input signals and the feedback animations.
 #include <QElapsedTimer>
+#include <QKeyEvent>
+#include <functional>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QtTest>
@@ -22,6 +24,14 @@ eng_priv::Cell cellWith(int index, int value, int origin, std::list<int> candida
 
 QLabel* candidate(Tile& tile, int v) { return tile.findChild<QLabel*>(QString("lbl%1").arg(v)); }
 QLabel* valueLabel(Tile& tile) { return tile.findChild<QLabel*>("lblValue"); }
+
+struct KeyReleaseCounter : QObject {
+    int releases = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::KeyRelease) ++releases;
+        return false;
+    }
+};
 
 void saveTile(Tile& tile, const QString& name) {
     savePicture(tile.grab(QRect(0, 0, 61, 61)).scaled(122, 122).toImage(), "tile_" + name);
@@ -56,6 +66,7 @@ private slots:
             QCOMPARE(candidate(fresh, v)->styleSheet(), Tile::stylePotentialOn);
         }
         QCOMPARE(fresh.size(), QSize(193, 199));
+        saveTile(fresh, "fresh");
         QCOMPARE(Tile::stylePotentialRemoved, QString("QLabel { background-color: red;  color : white; }"));
         QCOMPARE(Tile::styleRejectedValue,
                  QString("background-color: rgb(170, 255, 127); text-decoration: line-through; font: 75 24pt "
@@ -66,6 +77,8 @@ private slots:
         tile->updateFromCell(cellWith(37, 0, 0, {1, 2, 5}), false);
         QCOMPARE(tile->styleSheet(), Tile::styleTileNormal);
         for (int v = 1; v <= 9; ++v) QVERIFY(candidate(*tile, v)->isHidden());
+        QVERIFY(valueLabel(*tile)->isHidden());
+        saveTile(*tile, "empty");
         tile->showPencilMarks(true);
         for (int v = 1; v <= 9; ++v) {
             QVERIFY(candidate(*tile, v)->isVisible());
@@ -110,9 +123,26 @@ private slots:
         other.updateFromCell(cellWith(1, 0, 0), false);
         other.updateFromCell(cellWith(1, 8, eng::originPlayer), true);
         QCOMPARE(valueLabel(other)->styleSheet(), Tile::styleValueByPlayer);
+        saveTile(other, "entered_by_player");
         other.updateFromCell(cellWith(1, 0, 0), false);
         other.updateFromCell(cellWith(1, 8, eng::originPlayer), false);
         QCOMPARE(valueLabel(other)->styleSheet(), Tile::styleValueNormal);
+        saveTile(other, "filled");
+    }
+
+    void pencilMarksOnFilledTile() {
+        tile->updateFromCell(cellWith(37, 8, eng::originPlayer), false);
+        tile->showPencilMarks(true);  // only the flag changes
+        for (int v = 1; v <= 9; ++v) QVERIFY(candidate(*tile, v)->isHidden());
+        tile->updateFromCell(cellWith(37, 0, 0, {3, 8}), false);
+        for (int v = 1; v <= 9; ++v) QVERIFY(candidate(*tile, v)->isVisible());
+        QCOMPARE(candidate(*tile, 8)->styleSheet(), Tile::stylePotentialOn);
+        QCOMPARE(candidate(*tile, 9)->styleSheet(), Tile::stylePotentialOff);
+        // Marked removal, then an unmarked update: near-white, not red.
+        tile->updateFromCell(cellWith(37, 0, 0, {8}), true);
+        QCOMPARE(candidate(*tile, 3)->styleSheet(), Tile::stylePotentialRemoved);
+        tile->updateFromCell(cellWith(37, 0, 0, {8}), false);
+        QCOMPARE(candidate(*tile, 3)->styleSheet(), Tile::stylePotentialOff);
     }
 
     void caretAndHighlight() {
@@ -209,6 +239,10 @@ private slots:
         QCOMPARE(moved.at(2).at(1).value<Tile::CaretDirection>(), Tile::Up);
         QCOMPARE(moved.at(3).at(1).value<Tile::CaretDirection>(), Tile::Down);
 
+        QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_Down, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(tile, &repeated);
+        QCOMPARE(moved.count(), 5);
+
         tile->updateFromCell(cellWith(37, 0, 0), false);
         tile->showPencilMarks(true);
         tile->showPencilCaret();
@@ -218,6 +252,20 @@ private slots:
         QVERIFY(candidate(*tile, 3)->isHidden());
     }
 
+    void ignoredKeysReachTheParent() {
+        QWidget parent;
+        Tile* child = new Tile(&parent);
+        parent.show();
+        KeyReleaseCounter counter;
+        parent.installEventFilter(&counter);
+        QTest::keyClick(child, Qt::Key_Left);  // no caret
+        QCOMPARE(counter.releases, 1);
+        child->showValueCaret();
+        QTest::keyClick(child, Qt::Key_Left);  // consumed by the tile
+        QTest::keyClick(child, Qt::Key_B);     // not a digit: passed on
+        QCOMPARE(counter.releases, 2);
+    }
+
     void rejectValueAnimation() {
         tile->showPencilMarks(true);
         tile->updateFromCell(cellWith(37, 0, 0, {2, 4}), false);
@@ -225,8 +273,11 @@ private slots:
         QTest::keyClick(tile, Qt::Key_9);
         QElapsedTimer timer;
         timer.start();
-        tile->rejectValue();
+        const QStringList steps = observeSteps([this] { tile->rejectValue(); }, [this] {
+            return QString("%1 %2").arg(valueLabel(*tile)->isVisible()).arg(tile->styleSheet() == Tile::styleRejectedValue);
+        }, "rejected_value");
         QVERIFY(timer.elapsed() >= 800);
+        QCOMPARE(steps, QStringList({"1 1", "0 1", "1 1", "0 1"}));  // the struck-through digit blinks
         QCOMPARE(valueLabel(*tile)->text(), QString("0"));
         QVERIFY(valueLabel(*tile)->isHidden());
         QCOMPARE(tile->styleSheet(), Tile::styleValueCaret);
@@ -248,8 +299,13 @@ private slots:
         QVERIFY(candidate(*tile, 4)->isHidden());
         QElapsedTimer timer;
         timer.start();
-        tile->flashPotential(4);
+        const QStringList steps = observeSteps([this] { tile->flashPotential(4); }, [this] {
+            QLabel* label = candidate(*tile, 4);
+            return QString(label->isVisible() ? "shown " : "hidden ") +
+                   (label->styleSheet() == Tile::styleFlashRed ? "red" : label->styleSheet() == Tile::styleFlashBlack ? "black" : "?");
+        }, "flash");
         QVERIFY(timer.elapsed() >= 800);
+        QCOMPARE(steps, QStringList({"shown red", "shown black", "shown red", "shown black"}));
         QVERIFY(candidate(*tile, 4)->isVisible());
         QCOMPARE(candidate(*tile, 4)->styleSheet(), Tile::styleFlashEnd);
     }
@@ -271,6 +327,49 @@ private slots:
         QCOMPARE(valueLabel(*tile)->text(), QString("0"));
         QVERIFY(valueLabel(*tile)->isHidden());
         QVERIFY(!tile->isAnimating());
+    }
+
+    void tileDestroyedDuringAnimation() {
+        tile->showValueCaret();
+        QTest::keyClick(tile, Qt::Key_9);
+        QTimer::singleShot(250, this, [this] {
+            delete tile;
+            tile = nullptr;
+        });
+        tile->rejectValue();  // must return without touching the dead tile
+        QVERIFY(!tile);
+
+        init();
+        tile->showPencilMarks(true);
+        QTimer::singleShot(250, this, [this] {
+            delete tile;
+            tile = nullptr;
+        });
+        tile->flashPotential(2);
+        QVERIFY(!tile);
+    }
+
+private:
+    // Runs an animation and records what the tile shows each time it lets
+    // events through, one entry per step; saves a picture of every step.
+    QStringList observeSteps(const std::function<void()>& animation, const std::function<QString()>& probe,
+                             const QString& pictureName) {
+        QStringList steps;
+        QTimer sampler;
+        sampler.setInterval(0);
+        QElapsedTimer clock;
+        clock.start();
+        qint64 lastStep = -1000;
+        connect(&sampler, &QTimer::timeout, this, [&] {
+            if (clock.elapsed() - lastStep < 100) return;  // already sampled this step
+            lastStep = clock.elapsed();
+            steps << probe();
+            saveTile(*tile, QString("%1_step%2").arg(pictureName).arg(steps.size()));
+        });
+        sampler.start();
+        animation();
+        sampler.stop();
+        return steps;
     }
 };
 
