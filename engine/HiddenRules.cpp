@@ -7,13 +7,15 @@ namespace eng_priv {
 
 void Tuple::hiddenValues(const int* positions, int n, std::list<int>& values) const {
     values.clear();
+    unsigned chosenMask = 0;
+    for (int k = 0; k < n; ++k) chosenMask |= 1u << positions[k];
+    const int size = static_cast<int>(cells.size());
     for (int v = 1; v <= 9; ++v) {
         bool inChosen = false, elsewhere = false;
-        for (int pos = 0; pos < static_cast<int>(cells.size()); ++pos) {
+        for (int pos = 0; pos < size && !elsewhere; ++pos) {
             if (!cells[pos]->potential[v - 1]) continue;
-            bool chosen = false;
-            for (int k = 0; k < n; ++k) chosen = chosen || positions[k] == pos;
-            (chosen ? inChosen : elsewhere) = true;
+            if (chosenMask & (1u << pos)) inChosen = true;
+            else elsewhere = true;
         }
         if (inChosen && !elsewhere) values.push_back(v);
     }

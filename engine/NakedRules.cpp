@@ -16,18 +16,25 @@ bool sameFlags(const Cell& a, const Cell& b) {
 
 bool emptyPair(const Cell& c) { return c.value() == 0 && c.potentialCount == 2; }
 
+bool within(const Cell& cell, const bool values[9]) {
+    for (int i = 0; i < 9; ++i)
+        if (cell.potential[i] && !values[i]) return false;
+    return true;
+}
+
+int cellsWithin(const Tuple& tuple, const bool values[9]) {
+    int n = 0;
+    for (const Cell* cell : tuple.cells) n += within(*cell, values);
+    return n;
+}
+
 }  // namespace
 
 void Tuple::splitBySubset(const bool values[9], std::list<Cell*>& inside,
                           std::list<Cell*>& outside) const {
     inside.clear();
     outside.clear();
-    for (Cell* cell : cells) {
-        bool within = true;
-        for (int i = 0; i < 9 && within; ++i)
-            if (cell->potential[i] && !values[i]) within = false;
-        (within ? inside : outside).push_back(cell);
-    }
+    for (Cell* cell : cells) (within(*cell, values) ? inside : outside).push_back(cell);
 }
 
 bool removeValues(const bool values[9], const std::list<Cell*>& cells) {
@@ -95,6 +102,7 @@ bool RuleSolver::applyTriples() {
             if (!tuple->anyModified()) continue;
             for (Cell* c : tuple->cells) {
                 if (c->potentialCount != 3) continue;
+                if (cellsWithin(*tuple, c->potential) < 3) continue;  // no group: spare the split
                 tuple->splitBySubset(c->potential, inside, outside);
                 if (inside.size() < 3) continue;
                 if (inside.size() == 3) {

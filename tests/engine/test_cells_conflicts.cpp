@@ -149,3 +149,93 @@ TEST(Snapshots, CopiesAndEmptyCells) {
     EXPECT_FALSE(full.emptyCells(empty));
     EXPECT_TRUE(empty.empty());
 }
+
+TEST(Conflicts, RemainingTextsAndRepeatedDescriptions) {
+    ExCellConflict one(1, 80, 3);
+    const std::string first = one.describe();
+    EXPECT_EQ(first, "Conflict at cell index=80value=3details: Cannot set this potential value. It's in conflict");
+    EXPECT_EQ(std::string(one.describe()), first);
+    EXPECT_EQ(one.message, first);
+    EXPECT_STREQ(ExCellConflict(3, 40, 0).describe(),
+                 "Conflict at cell index=40value=0details: All potential values were removed from this cell. There "
+                 "is no solution.");
+    EXPECT_STREQ(ExCellConflict(-1, 0, 0).describe(),
+                 "Conflict at cell index=0value=0details: Unknown conflict type. Please report this error.");
+
+    ExTupleConflict t(1, "column", 8, {1, 2, 3}, {0, 1, 2, 3, 4, 8});
+    const std::string tupleFirst = t.describe();
+    EXPECT_EQ(tupleFirst,
+              "Conflict: On column 9: cannot distribute values: 1, 2, 3 to cells: 0th, 1st, 2nd, 3rd, 4th, 8th  "
+              "(too many cells, to few values)");
+    EXPECT_EQ(std::string(t.describe()), tupleFirst);
+    EXPECT_EQ(t.message, tupleFirst);
+    EXPECT_STREQ(ExTupleConflict(0, "row", 4, {}, {}).describe(),
+                 "Conflict: On row 5: cannot distribute values:  to cells:   (too many values, to few cells)");
+    EXPECT_STREQ(ExTupleConflict(-3, "square", 1, {}, {}).describe(),
+                 "Conflict: Unknown conflict type on tuple. Please report this error.");
+}
+
+TEST(Cells, ResetAndNarrowing) {
+    Cell c;
+    c.reset(0);
+    EXPECT_EQ(c.row(), 0);
+    EXPECT_EQ(c.column(), 0);
+    EXPECT_EQ(c.square(), 0);
+    EXPECT_FALSE(c.modified);
+    // Values that are not candidates are ignored; nothing changed keeps the mark clear.
+    EXPECT_FALSE(c.keepOnlyPotentials({1, 2, 3, 4, 5, 6, 7, 8, 9, 12}));
+    EXPECT_FALSE(c.modified);
+    EXPECT_TRUE(c.keepOnlyPotentials({4, 6, 0}));
+    EXPECT_TRUE(c.modified);
+    EXPECT_EQ(c.potentialCount, 2);
+    EXPECT_FALSE(c.keepOnlyPotentials({4, 6, 9}));
+    EXPECT_EQ(cellConflictKind([&] { c.keepOnlyPotentials({9}); }), 3);
+    EXPECT_EQ(c.potentialCount, 0);
+
+    EXPECT_EQ(cellConflictKind([&] { c.setValue(0, 2); }), 0);  // 0 is never a candidate
+    c.reset(45);
+    EXPECT_EQ(c.potentialCount, 9);
+    EXPECT_FALSE(c.modified);
+    EXPECT_EQ(c.value(), 0);
+    EXPECT_EQ(c.square(), 3);
+}
+
+TEST(Tuples, NamesAndRemovalsKeepingSeveralCells) {
+    eng_priv::Column plain;
+    EXPECT_EQ(plain.index, -1);
+    EXPECT_EQ(plain.name(), "<unnamed>");
+    BoardSnapshot s;
+    eng_priv::Square sq;
+    sq.init(3);
+    EXPECT_EQ(sq.name(), "square");
+    EXPECT_EQ(sq.index, 3);
+    for (int i : {27, 28, 29, 36, 37, 38, 45, 46, 47}) sq.addCell(&s.cells[i]);
+    EXPECT_TRUE(sq.removeFromOthers(2, &s.cells[27], &s.cells[47]));
+    EXPECT_TRUE(s.cells[27].isPotential(2));
+    EXPECT_TRUE(s.cells[47].isPotential(2));
+    EXPECT_FALSE(s.cells[28].isPotential(2));
+    EXPECT_TRUE(sq.removeFromOthers(3, &s.cells[27], &s.cells[28], &s.cells[29]));
+    EXPECT_TRUE(s.cells[29].isPotential(3));
+    EXPECT_FALSE(s.cells[36].isPotential(3));
+
+    // A removal that empties a cell: the cells before it keep their change,
+    // the emptied cell is left without its mark, the cells after it untouched.
+    s.cells[38].keepOnlyPotentials({4});
+    s.cells[38].modified = false;
+    try {
+        sq.removeFromOthers(4, &s.cells[27]);
+        FAIL() << "expected a conflict";
+    } catch (ExCellConflict& e) {
+        EXPECT_EQ(e.kind, 3);
+        EXPECT_EQ(e.cellIndex, 38);
+        EXPECT_EQ(e.value, 0);
+    }
+    EXPECT_FALSE(s.cells[37].isPotential(4));
+    EXPECT_EQ(s.cells[38].potentialCount, 0);
+    EXPECT_FALSE(s.cells[38].modified);
+    EXPECT_TRUE(s.cells[45].isPotential(4));
+
+    sq.init(5, "square");
+    EXPECT_TRUE(sq.cells.empty());
+    EXPECT_EQ(sq.index, 5);
+}
