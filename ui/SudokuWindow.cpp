@@ -86,20 +86,27 @@ void SudokuWindow::updateTiles(const std::vector<eng::CellInfo*>& cells, bool ma
 void SudokuWindow::cellsChanged(const std::vector<eng::CellInfo*>& cells) {
     BusyScope scope(busy);
     updateTiles(cells, markChanges);
-    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    repaintNow();
+}
+
+// Lets the board be painted before the command goes on. While pages are being
+// drawn, the player's input waits until the pages are done: a click in the
+// print preview would otherwise ask for the pages again in the middle of them.
+void SudokuWindow::repaintNow() {
+    QCoreApplication::processEvents(painting ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
 }
 
 void SudokuWindow::noMoreMoves(const std::vector<eng::CellInfo*>& cells) {
     BusyScope scope(busy);
     updateTiles(cells, false);
-    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    repaintNow();
     showMessage(QMessageBox::Warning, tr("No more moves can be done."));
 }
 
 void SudokuWindow::cellHasNoSolution(const std::vector<eng::CellInfo*>& cells, int cell) {
     BusyScope scope(busy);
     updateTiles(cells, false);
-    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    repaintNow();
     showMessage(QMessageBox::Warning, tr("Cell %1 has no solution").arg(cell));
 }
 
@@ -416,11 +423,30 @@ void SudokuWindow::openGame() {
         if (loaded) {
             delete board;
             board = next;
+            showWholeBoard();
         } else {
             delete next;
         }
     }
     if (!loaded) showMessage(QMessageBox::Information, tr("Failed to load game"));
+}
+
+// Shows every cell of the board on its tile; a board without a position shows
+// empty tiles. Used after a load, whatever the loaded game reported itself.
+void SudokuWindow::showWholeBoard() {
+    struct EmptyCell : eng::CellInfo {
+        bool isPotential(int) const override { return true; }
+    };
+    for (int i = 0; i < 81; ++i) {
+        const eng::CellInfo* cell = board ? board->cell(i) : nullptr;
+        if (cell) {
+            tiles[i]->updateFromCell(*cell, false);
+        } else {
+            EmptyCell empty;
+            empty.reset(i);
+            tiles[i]->updateFromCell(empty, false);
+        }
+    }
 }
 
 void SudokuWindow::saveGame() {

@@ -3,7 +3,6 @@
 // commands and tile signals into engine calls. It is the board's observer.
 
 #include <QMainWindow>
-#include <QPointer>
 #include <functional>
 
 #include "Board.h"
@@ -104,6 +103,9 @@ private:
     // the running one is still using.
     int busy = 0;
     bool closing = false;
+    // True while doPainting draws pages; a request for pages that arrives
+    // meanwhile is ignored.
+    bool painting = false;
     QSoundEffect* sound = nullptr;
     FileNameProvider fileNameProvider;
 
@@ -128,6 +130,8 @@ private:
     bool beginTileClick(int index);
     void hideCaretIfAny();
     void updateTiles(const std::vector<eng::CellInfo*>& cells, bool mark);
+    void repaintNow();
+    void showWholeBoard();
     bool pencilMarksShown() const;
     void playRefusalSound();
     void showMessage(int icon, const QString& text);

@@ -59,7 +59,13 @@ void SudokuWindow::preparePrinter(QPrinter& printer) {
 }
 
 void SudokuWindow::doPainting(QPrinter* printer) {
-    if (!printer) return;
+    if (!printer || painting) return;
+    BusyScope scope(busy);
+    painting = true;
+    struct PaintingDone {
+        bool& flag;
+        ~PaintingDone() { flag = false; }
+    } done{painting};
     const QRectF pageMm = printer->pageRect(QPrinter::Millimeter);
     const QRectF pageDevice = printer->pageRect(QPrinter::DevicePixel);
     QPainter painter;

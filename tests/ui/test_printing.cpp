@@ -3,6 +3,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
@@ -29,13 +31,24 @@ void choose(SudokuWindow& w, const char* radio, int repeat, int level) {
     info.findChild<QComboBox*>("cmbGamesLevel")->setCurrentIndex(level);
 }
 
-QString printPdf(SudokuWindow& w, const QString& path, QPageLayout::Orientation orientation = QPageLayout::Portrait) {
-    QPrinter printer(QPrinter::ScreenResolution);
+// Keeps a copy of a printed file next to the test pictures, for a person to look at.
+void keepFile(const QString& path, const QString& name) {
+    const QString out = qEnvironmentVariable("SUDOKU_TEST_OUTPUT");
+    if (out.isEmpty()) return;
+    QDir().mkpath(out);
+    QFile::remove(out + "/" + name);
+    QFile::copy(path, out + "/" + name);
+}
+
+QString printPdf(SudokuWindow& w, const QString& path, QPageLayout::Orientation orientation = QPageLayout::Portrait,
+                 QPrinter::PrinterMode mode = QPrinter::ScreenResolution) {
+    QPrinter printer(mode);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(path);
     SudokuWindow::preparePrinter(printer);
     printer.setPageOrientation(orientation);
     w.doPainting(&printer);
+    keepFile(path, QFileInfo(path).fileName());
     return path;
 }
 
@@ -147,6 +160,20 @@ private slots:
         savePicture(pages[0], "print_one");
     }
 
+    void highResolution() {
+        choose(*window, "radCurrentGame", 1, 1);
+        QString pdf = printPdf(*window, dir.filePath("hi_one.pdf"), QPageLayout::Portrait, QPrinter::HighResolution);
+        auto pages = renderPages(pdf);
+        if (pages.isEmpty()) QSKIP("pdftoppm is not installed");
+        savePicture(pages[0], "print_one_high");
+        expectInkOnlyIn(pages[0], print_layout::boardRects(1, QRectF(0, 0, 210, 297)));
+        choose(*window, "radNewFourGames", 1, 1);
+        pdf = printPdf(*window, dir.filePath("hi_four.pdf"), QPageLayout::Portrait, QPrinter::HighResolution);
+        pages = renderPages(pdf);
+        savePicture(pages[0], "print_four_high");
+        expectInkOnlyIn(pages[0], print_layout::boardRects(4, QRectF(0, 0, 210, 297)));
+    }
+
     void twoAndFourPerPage() {
         choose(*window, "radNewTwoGames", 1, 0);
         QString pdf = printPdf(*window, dir.filePath("two.pdf"));
@@ -224,6 +251,53 @@ private slots:
         window->printGame();
         QCOMPARE(info.whatToPrint(), 1);
         QCOMPARE(info.gamesLevel(), 2);
+    }
+
+    void previewDrawsThePages() {
+        PrintingInfo& info = window->printingOptions();
+        info.findChild<QCheckBox*>("chkExportToPdf")->setChecked(false);
+        info.findChild<QCheckBox*>("chkShowPrintPreview")->setChecked(true);
+        choose(*window, "radNewTwoGames", 2, 3);
+        int pagesShown = -1, pagesAfterTurning = -1;
+        QString labelAfterFirst;
+        QTimer::singleShot(50, &info, [&] {
+            info.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Ok)->click();
+        });
+        QTimer::singleShot(300, window, [&] {
+            for (QWidget* w : QApplication::topLevelWidgets()) {
+                auto* preview = qobject_cast<QPrintPreviewDialog*>(w);
+                if (!preview) continue;
+                auto* pages = preview->findChild<QPrintPreviewWidget*>();
+                pagesShown = pages->pageCount();
+                labelAfterFirst = window->levelText();
+                pages->setLandscapeOrientation();  // asks for the pages again
+                pagesAfterTurning = pages->pageCount();
+                preview->reject();
+            }
+        });
+        window->printGame();
+        QCOMPARE(pagesShown, 2);
+        QCOMPARE(pagesAfterTurning, 2);
+        QCOMPARE(labelAfterFirst, QString("difficulty: Medium"));
+    }
+
+    void pagesAskedForWhileDrawingAreIgnored() {
+        // A second request for pages that arrives while the boards of the first
+        // are generated must neither draw nor replace the board under them.
+        choose(*window, "radNewFourGames", 1, 1);
+        const QString nested = dir.filePath("nested.pdf");
+        QPrinter other(QPrinter::ScreenResolution);
+        other.setOutputFormat(QPrinter::PdfFormat);
+        other.setOutputFileName(nested);
+        bool fired = false;
+        QTimer::singleShot(0, window, [&] {
+            fired = true;
+            window->doPainting(&other);
+        });
+        const QString pdf = printPdf(*window, dir.filePath("outer.pdf"));
+        QVERIFY(fired);
+        QCOMPARE(pageCount(pdf), 1);
+        QVERIFY(!QFile::exists(nested));
     }
 
     void unwritablePdfFails() {

@@ -1,5 +1,7 @@
-// Closing the window while the completion celebration runs: the sweep stops,
-// no message box is left waiting, and the window is destroyed cleanly.
+// Closing the window in the middle of things: during a tile's refusal blink,
+// while a question is asked, and while the completion celebration runs. The
+// running command ends without acting on the board, no message box is left
+// waiting, and the window is destroyed cleanly.
 #include <QAction>
 #include <QElapsedTimer>
 #include <QtTest>
@@ -7,17 +9,75 @@
 #include "SudokuWindow.h"
 #include "WindowTestSupport.h"
 
+namespace {
+
+SudokuWindow* shownWindow() {
+    auto* window = new SudokuWindow();
+    window->show();
+    return window;
+}
+
+int firstEmpty(SudokuWindow& w) {
+    for (int i = 0; i < 81; ++i)
+        if (!w.tileAt(i)->hasValue()) return i;
+    return -1;
+}
+
+}  // namespace
+
 class ShutdownTest : public QObject {
     Q_OBJECT
 
 private slots:
+    // Closing the window asks the application to quit, which makes every
+    // event loop that starts later return at once. Running the application's
+    // own loop once clears that, so each case starts afresh.
+    void cleanup() {
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        qApp->exec();
+    }
+
+    void closeDuringRefusalAnimation() {
+        SudokuWindow* window = shownWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        eng::Board* board = window->currentBoard();
+        const size_t history = board->historySize();
+        const int i = firstEmpty(*window);
+        Tile* tile = window->tileAt(i);
+        QTest::mouseClick(tile, Qt::LeftButton);
+        QTimer::singleShot(300, window, [window, i] {
+            // Input during the blink is ignored, then the window closes.
+            QTest::mouseClick(window->tileAt(i == 0 ? 1 : 0), Qt::LeftButton);
+            window->findChild<QAction*>("actionMakeMove")->trigger();
+            window->findChild<QAction*>("actionOpenGame")->trigger();
+            window->close();
+        });
+        QTest::keyClick(tile, Qt::Key_0 + board->solutionValue(i) % 9 + 1);
+        QVERIFY(!window->isVisible());
+        QVERIFY(!tile->hasValue());
+        QCOMPARE(window->currentBoard(), board);
+        QCOMPARE(board->historySize(), history);
+        delete window;
+    }
+
+    void closeWhileAskingForANewGame() {
+        SudokuWindow* window = shownWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        eng::Board* board = window->currentBoard();
+        QTimer::singleShot(100, window, [window] { window->close(); });
+        window->findChild<QAction*>("actionNewGameHard")->trigger();
+        QCOMPARE(window->currentBoard(), board);
+        QCOMPARE(window->levelText(), QString("difficulty: Medium"));
+        delete window;
+    }
+
     void closeDuringCelebration() {
-        auto* window = new SudokuWindow();
-        window->show();
+        SudokuWindow* window = shownWindow();
         QVERIFY(QTest::qWaitForWindowExposed(window));
         MessageBoxAnswerer answerer;
         window->findChild<QAction*>("actionNewGameVeryEasy")->trigger();
         eng::Board* board = window->currentBoard();
+        QCOMPARE(board->getLevel(), int(eng::lvlVeryEasy));
         int last = -1;
         for (int i = 0; i < 81; ++i) {
             if (board->cell(i)->value() != 0) continue;
