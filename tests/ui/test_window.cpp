@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTemporaryDir>
 #include <QStatusBar>
 #include <QToolBar>
@@ -77,6 +78,51 @@ private slots:
         int givens = 0;
         for (int i = 0; i < 81; ++i) givens += window->tileAt(i)->hasValue();
         QVERIFY(givens > 17 && givens < 81);
+    }
+
+    void menusAndToolbar() {
+        // Names of the entries in order, "-" for a separator, ">" before a submenu.
+        auto names = [](QWidget* holder) {
+            QStringList out;
+            for (QAction* a : holder->actions()) {
+                if (a->isSeparator())
+                    out << "-";
+                else if (a->menu())
+                    out << ">" + a->menu()->objectName();
+                else
+                    out << a->objectName();
+            }
+            return out;
+        };
+        auto menu = [this](const char* name) { return window->findChild<QMenu*>(name); };
+        QCOMPARE(names(window->menuBar()), (QStringList{">menuGame", ">menu_View", ">menu_Help"}));
+        QCOMPARE(names(menu("menuGame")),
+                 (QStringList{">menu_New_Game", "-", "actionOpenGame", "actionSaveGame", "-", "actionPrint", "-",
+                              "actionMakeMove", "actionRetractMove", "-", "actionExit"}));
+        QCOMPARE(names(menu("menu_New_Game")),
+                 (QStringList{"actionNewGameCompleted", "actionNewGameVeryEasy", "actionNewGameEasy",
+                              "actionNewGameMedium", "actionNewGameHard", "-", "actionNewGameUserEdit"}));
+        QCOMPARE(names(menu("menu_View")),
+                 (QStringList{">menuToolbarItems", "-", "actionViewPencilMarks", "actionViewPencilMarksOptions", "-",
+                              "actionViewToolbar", "actionViewStatusbar", "-"}));
+        QCOMPARE(names(window->findChild<QToolBar*>("mainToolBar")),
+                 (QStringList{"actionNewGameVeryEasy", "actionNewGameEasy", "actionNewGameMedium", "actionNewGameHard",
+                              "-", "actionOpenGame", "actionSaveGame", "-", "actionPrint", "-", "actionRetractMove",
+                              "actionMakeMove", "-", "actionAbout"}));
+        // Every icon and every tool-tip picture comes from the compiled-in resources.
+        for (QAction* a : window->findChildren<QAction*>()) {
+            if (!a->objectName().startsWith("action")) continue;
+            const QString tip = a->toolTip();
+            const int at = tip.indexOf(":/Sudoku/Resources/");
+            if (tip.startsWith("<html>")) {
+                QVERIFY2(at > 0, qPrintable(a->objectName()));
+                const QString file = tip.mid(at, tip.indexOf('"', at) - at);
+                QVERIFY2(!QPixmap(file).isNull(), qPrintable(file));
+                QVERIFY2(!a->icon().isNull(), qPrintable(a->objectName()));
+            }
+        }
+        QVERIFY(!action(*window, "actionNewGameUserEdit")->icon().isNull());
+        QVERIFY(action(*window, "actionExit")->icon().isNull());
     }
 
     void valueEntryThroughKeys() {
