@@ -3,16 +3,14 @@
 
 #include <string>
 
-#include "Conflicts.h"
-#include "RuleSolver.h"
+#include "RuleTestSupport.h"
 
 using namespace eng;
 using eng_priv::BoardSnapshot;
 using eng_priv::RuleSolver;
+using namespace rule_test;
 
 namespace {
-
-void keep(BoardSnapshot& s, int cell, std::list<int> values) { s.cells[cell].keepOnlyPotentials(values); }
 
 // Leaves value out of every cell of row r except the listed ones.
 void onlyIn(BoardSnapshot& s, int value, std::initializer_list<int> cellsWithIt, int row) {
@@ -22,29 +20,6 @@ void onlyIn(BoardSnapshot& s, int value, std::initializer_list<int> cellsWithIt,
         for (int k : cellsWithIt) listed = listed || k == i;
         if (!listed) s.cells[i].removePotential(value, false);
     }
-}
-
-std::list<int> candidates(const BoardSnapshot& s, int cell) {
-    std::list<int> out;
-    for (int v = 1; v <= 9; ++v)
-        if (s.cells[cell].isPotential(v)) out.push_back(v);
-    return out;
-}
-
-void clearMarks(BoardSnapshot& s) {
-    for (auto& c : s.cells) c.modified = false;
-}
-
-bool run(BoardSnapshot& s, std::list<Rules> rules) { return RuleSolver(rules).applyAll(s); }
-
-template <typename Ex>
-std::string describeThrown(BoardSnapshot& s, std::list<Rules> rules) {
-    try {
-        run(s, rules);
-    } catch (Ex& e) {
-        return e.describe();
-    }
-    return "no conflict";
 }
 
 }  // namespace
@@ -70,7 +45,7 @@ TEST(Singles, TwoEqualSinglesInARowConflict) {
     BoardSnapshot s;
     keep(s, 3, {4});
     keep(s, 6, {4});
-    EXPECT_EQ(describeThrown<ExCellConflict>(s, {ruleSinglesRowOnly}),
+    EXPECT_EQ(conflictText(s, {ruleSinglesRowOnly}),
               "Conflict at cell index=6value=0details: All potential values were removed from this "
               "cell. There is no solution.");
 }
@@ -159,7 +134,7 @@ TEST(NakedTriples, FourCellsInThreeValuesConflict) {
     keep(s, 2, {4, 5});
     keep(s, 4, {5, 6});
     keep(s, 7, {4, 6});
-    EXPECT_EQ(describeThrown<ExTupleConflict>(s, {ruleTriples}),
+    EXPECT_EQ(conflictText(s, {ruleTriples}),
               "Conflict: On row 1: cannot distribute values: 4, 5, 6 to cells: 0th, 2nd, 4th, 7th  "
               "(too many cells, to few values)");
 }
@@ -226,7 +201,7 @@ TEST(Hidden, SinglesDoublesAndConflicts) {
     BoardSnapshot conflict;
     onlyIn(conflict, 3, {4}, 0);
     onlyIn(conflict, 6, {4}, 0);
-    EXPECT_EQ(describeThrown<ExTupleConflict>(conflict, {ruleHiddenSingles}),
+    EXPECT_EQ(conflictText(conflict, {ruleHiddenSingles}),
               "Conflict: On row 1: cannot distribute values: 3, 6 to cells: 4th  (too many values, "
               "to few cells)");
 

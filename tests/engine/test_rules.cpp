@@ -7,16 +7,14 @@
 #include <list>
 #include <string>
 
-#include "Conflicts.h"
-#include "RuleSolver.h"
+#include "RuleTestSupport.h"
 
 using namespace eng;
 using eng_priv::BoardSnapshot;
 using eng_priv::RuleSolver;
+using namespace rule_test;
 
 namespace {
-
-void keep(BoardSnapshot& s, int cell, std::list<int> values) { s.cells[cell].keepOnlyPotentials(values); }
 
 // Places v in a cell the way the board does: narrowed to v, then set.
 void place(BoardSnapshot& s, int cell, int v) {
@@ -26,31 +24,6 @@ void place(BoardSnapshot& s, int cell, int v) {
 
 void removeFrom(BoardSnapshot& s, int value, std::initializer_list<int> cells) {
     for (int i : cells) s.cells[i].removePotential(value, true);
-}
-
-std::list<int> candidates(const BoardSnapshot& s, int cell) {
-    std::list<int> out;
-    for (int v = 1; v <= 9; ++v)
-        if (s.cells[cell].isPotential(v)) out.push_back(v);
-    return out;
-}
-
-void clearMarks(BoardSnapshot& s) {
-    for (auto& c : s.cells) c.modified = false;
-}
-
-bool run(BoardSnapshot& s, std::list<Rules> rules) { return RuleSolver(rules).applyAll(s); }
-
-// Runs the rules and returns the description of the conflict they raise.
-std::string conflictText(BoardSnapshot& s, std::list<Rules> rules) {
-    try {
-        run(s, rules);
-    } catch (ExCellConflict& e) {
-        return e.describe();
-    } catch (ExTupleConflict& e) {
-        return e.describe();
-    }
-    return "no conflict";
 }
 
 const std::string kEmptied = "details: All potential values were removed from this cell. There is no solution.";
