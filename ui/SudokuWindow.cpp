@@ -52,7 +52,7 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     connect(&pencilMarksOptions, &PencilMarksOptions::applyRules, this, &SudokuWindow::applyPencilmarksRules);
 
     newGameStep(eng::lvlMedium, true);
-    ui->txtLevel->setText(tr(levelLabel(eng::lvlMedium)));
+    setLevelLabel(eng::lvlMedium);
 }
 
 SudokuWindow::~SudokuWindow() {

@@ -114,10 +114,8 @@ void Tile::showPencilMarks(bool show) {
     if (pencilMarksShown == show) return;
     pencilMarksShown = show;
     if (valueLabel->text() != QLatin1String("0")) return;
-    for (QLabel* label : potentials) {
-        label->setVisible(show);
-        label->setStyleSheet(label->isEnabled() ? stylePotentialOn : stylePotentialOff);
-    }
+    for (QLabel* label : potentials) label->setVisible(show);
+    resetPotentialStyles();
 }
 
 void Tile::resetPotentialStyles() {
