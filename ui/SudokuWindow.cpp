@@ -457,9 +457,11 @@ void SudokuWindow::saveGame() {
     if (file.open(QIODevice::WriteOnly)) {
         std::ostringstream out(std::ios::binary);
         if (board->serialize(out)) {
+            // A full disk shows up only when the data is written out.
             const std::string bytes = out.str();
-            file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-            return;
+            const bool written = file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
+                                 static_cast<qint64>(bytes.size());
+            if (written && file.flush()) return;
         }
     }
     showMessage(QMessageBox::Information, tr("Failed to save game"));

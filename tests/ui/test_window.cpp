@@ -492,6 +492,12 @@ private slots:
         window->setFileNameProvider([&](SudokuWindow::FileRequest) { return dir.filePath("no/such/dir/x.sud"); });
         action(*window, "actionSaveGame")->trigger();
         QCOMPARE(answerer.texts.last(), QString("Failed to save game"));
+        if (QFile::exists("/dev/full")) {  // opens, but every write fails as on a full disk
+            answerer.texts.clear();
+            window->setFileNameProvider([&](SudokuWindow::FileRequest) { return QString("/dev/full"); });
+            action(*window, "actionSaveGame")->trigger();
+            QCOMPARE(answerer.texts, QStringList{"Failed to save game"});
+        }
         // The game is still playable.
         action(*window, "actionMakeMove")->trigger();
         QVERIFY(shownValues(*window) != shown);
