@@ -8,6 +8,8 @@ packages=(
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev
   poppler-utils
+  xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils
+  stress-ng desktop-file-utils appstream ccache
 )
 
 missing=()

@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# Runs a command on a real X server: a private Xvfb (1280x1024x24) with the
+# openbox window manager, torn down afterwards.
+#   scripts/with-display.sh [--dpi N] COMMAND [ARGS...]
+# --dpi sets Xft.dpi through xrdb before the command starts. The command gets
+# DISPLAY and QT_QPA_PLATFORM=xcb; its exit status is returned.
+set -euo pipefail
+dpi=
+if [[ ${1:-} == --dpi ]]; then
+  dpi=$2
+  shift 2
+fi
+(($#)) || { echo "usage: $0 [--dpi N] COMMAND [ARGS...]" >&2; exit 2; }
+
+pids=()
+fifo_dir=$(mktemp -d)
+cleanup() {
+  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+  wait 2>/dev/null || true
+  rm -rf "$fifo_dir"
+}
+trap cleanup EXIT
+
+# Xvfb picks a free display itself and writes its number to the pipe.
+mkfifo "$fifo_dir/fd"
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$fifo_dir/fd" 2>/dev/null &
+pids+=($!)
+read -r -t 60 number <"$fifo_dir/fd" || { echo "Xvfb did not start" >&2; exit 1; }
+export DISPLAY=":$number"
+
+if [[ -n $dpi ]]; then
+  echo "Xft.dpi: $dpi" | xrdb -merge
+fi
+
+openbox >/dev/null 2>&1 &
+pids+=($!)
+# Poll until the window manager owns the screen.
+for _ in $(seq 600); do
+  xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
+  sleep 0.1
+done
+xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' ||
+  { echo "openbox did not start" >&2; exit 1; }
+
+export QT_QPA_PLATFORM=xcb
+set +e
+"$@"
+status=$?
+set -e
+exit $status
