@@ -2,10 +2,11 @@
 # Runs a command on a real X server: a private Xvfb (1280x1024x24) with the
 # openbox window manager, torn down afterwards.
 #   scripts/with-display.sh [--dpi N] COMMAND [ARGS...]
-# --dpi sets Xft.dpi through xrdb before the command starts. The command gets
+# --dpi sets Xft.dpi through xrdb before the command starts (default 96, as a
+# desktop session sets it; Xvfb alone would report 100). The command gets
 # DISPLAY and QT_QPA_PLATFORM=xcb; its exit status is returned.
 set -euo pipefail
-dpi=
+dpi=96
 if [[ ${1:-} == --dpi ]]; then
   dpi=$2
   shift 2

@@ -1,6 +1,10 @@
 // Draws the program's icons. Build and run with resources/generate/generate.sh.
+// Every icon of the resource file is drawn at 48 px and at 96 px (name@2x.png),
+// which the toolkit picks on screens that scale by more than one; the
+// application icon is drawn for the hicolor theme at 48, 128 and 256 px.
 #include <QColor>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QLinearGradient>
@@ -14,15 +18,23 @@ const QColor kBlueDark(22, 78, 160);
 const QColor kBlue(52, 120, 214);
 const QColor kBlueLight(170, 205, 245);
 
-void save(const QString& dir, const QString& name, int size, const std::function<void(QPainter&)>& draw) {
+// Every drawing works on a 48 x 48 canvas; it is scaled to the size asked for.
+void draw(const QString& path, int size, const std::function<void(QPainter&)>& picture) {
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     p.scale(size / 48.0, size / 48.0);
-    draw(p);
+    picture(p);
     p.end();
-    image.save(dir + "/" + name);
+    QDir().mkpath(QFileInfo(path).path());
+    if (!image.save(path)) qFatal("cannot write %s", qPrintable(path));
+}
+
+// A resource icon: name.png at 48 px and name@2x.png at 96 px.
+void save(const QString& dir, const QString& name, const std::function<void(QPainter&)>& picture) {
+    draw(dir + "/" + name + ".png", 48, picture);
+    draw(dir + "/" + name + "@2x.png", 96, picture);
 }
 
 // A blue board with a 3x3 grid; `filled` of its nine cells carry a digit dot.
@@ -167,29 +179,59 @@ void aboutPicture(QPainter& p, const QColor& light, const QColor& dark) {
     p.drawText(QRectF(30.2, 30.2, 12.6, 12.6), Qt::AlignCenter, "9");
 }
 
+// The application icon: one square of the board with a few digits, on the
+// blue tile of the level icons.
+void appIcon(QPainter& p) {
+    QLinearGradient g(0, 0, 0, 48);
+    g.setColorAt(0, kBlue.lighter(120));
+    g.setColorAt(1, kBlueDark);
+    p.setPen(QPen(kBlueDark.darker(130), 1.5));
+    p.setBrush(g);
+    p.drawRoundedRect(QRectF(2, 2, 44, 44), 8, 8);
+    const QRectF board(7, 7, 34, 34);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawRoundedRect(board, 3, 3);
+    const qreal cell = board.width() / 3;
+    p.setPen(QPen(kBlueLight.darker(115), 1.2));
+    for (int k = 1; k < 3; ++k) {
+        p.drawLine(QPointF(board.left() + k * cell, board.top() + 1.5), QPointF(board.left() + k * cell, board.bottom() - 1.5));
+        p.drawLine(QPointF(board.left() + 1.5, board.top() + k * cell), QPointF(board.right() - 1.5, board.top() + k * cell));
+    }
+    QFont font("DejaVu Sans");
+    font.setPixelSize(9);
+    font.setBold(true);
+    p.setFont(font);
+    const std::pair<int, const char*> digits[] = {{0, "5"}, {2, "3"}, {4, "7"}, {6, "9"}, {7, "1"}};
+    for (const auto& [at, digit] : digits) {
+        p.setPen(at == 4 ? kBlue : kBlueDark);
+        p.drawText(QRectF(board.left() + (at % 3) * cell, board.top() + (at / 3) * cell, cell, cell), Qt::AlignCenter, digit);
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     const QString dir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QDir::currentPath();
-    save(dir, "blue_resolved.png", 48, [](QPainter& p) { levelIcon(p, 9); });
-    save(dir, "blue_very_easy.png", 48, [](QPainter& p) { levelIcon(p, 7); });
-    save(dir, "blue-easy.png", 48, [](QPainter& p) { levelIcon(p, 5); });
-    save(dir, "blue_normal.png", 48, [](QPainter& p) { levelIcon(p, 3); });
-    save(dir, "blue_hard.png", 48, [](QPainter& p) { levelIcon(p, 1); });
-    save(dir, "blue_empty.png", 48, [](QPainter& p) { levelIcon(p, 0); });
-    save(dir, "open_game.png", 48, folder);
-    save(dir, "save_game.png", 48, disk);
-    save(dir, "printer.png", 48, printer);
-    save(dir, "about.png", 48, about);
-    save(dir, "make_move.png", 48, [](QPainter& p) { arrow(p, true, QColor(60, 170, 70)); });
-    save(dir, "retract_move.png", 48, [](QPainter& p) { arrow(p, false, QColor(225, 120, 40)); });
-    save(dir, "blue_make_move.png", 48, [](QPainter& p) { arrow(p, true, kBlue); });
-    save(dir, "blue_retract_move.png", 48, [](QPainter& p) { arrow(p, false, kBlue); });
-    save(dir, "blue-about-cool-48.png", 48,
-         [](QPainter& p) { aboutPicture(p, kBlueLight, kBlueDark); });
-    save(dir, "blue-about-rose-48.png", 48,
-         [](QPainter& p) { aboutPicture(p, QColor(250, 205, 220), QColor(170, 40, 90)); });
+    save(dir, "blue_resolved", [](QPainter& p) { levelIcon(p, 9); });
+    save(dir, "blue_very_easy", [](QPainter& p) { levelIcon(p, 7); });
+    save(dir, "blue-easy", [](QPainter& p) { levelIcon(p, 5); });
+    save(dir, "blue_normal", [](QPainter& p) { levelIcon(p, 3); });
+    save(dir, "blue_hard", [](QPainter& p) { levelIcon(p, 1); });
+    save(dir, "blue_empty", [](QPainter& p) { levelIcon(p, 0); });
+    save(dir, "open_game", folder);
+    save(dir, "save_game", disk);
+    save(dir, "printer", printer);
+    save(dir, "about", about);
+    save(dir, "make_move", [](QPainter& p) { arrow(p, true, QColor(60, 170, 70)); });
+    save(dir, "retract_move", [](QPainter& p) { arrow(p, false, QColor(225, 120, 40)); });
+    save(dir, "blue_make_move", [](QPainter& p) { arrow(p, true, kBlue); });
+    save(dir, "blue_retract_move", [](QPainter& p) { arrow(p, false, kBlue); });
+    save(dir, "blue-about-cool-48", [](QPainter& p) { aboutPicture(p, kBlueLight, kBlueDark); });
+    save(dir, "blue-about-rose-48", [](QPainter& p) { aboutPicture(p, QColor(250, 205, 220), QColor(170, 40, 90)); });
+    for (int size : {48, 128, 256})
+        draw(QString("%1/hicolor/%2x%2/apps/org.sudoku_vantu.SudokuVantu.png").arg(dir).arg(size), size, appIcon);
     return 0;
 }

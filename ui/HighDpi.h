@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QApplication>
+
+// Lays the program out in device-independent pixels that follow the screen's
+// DPI (Xft.dpi on X11) or QT_SCALE_FACTOR, and loads the icons' name@2x.png
+// pictures where a pixel is larger than one device pixel. Must run before the
+// application object is created.
+//
+// The factor is passed through unrounded: rounding 120 dpi (1.25) down to 1
+// would leave the layout at its size while the fonts grow to 120 dpi and no
+// longer fit; with the exact factor the fonts keep their 96-dpi size relative
+// to the layout.
+inline void enableHighDpiScaling() {
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
