@@ -164,6 +164,7 @@ toolbar = ('<widget class="QToolBar" name="mainToolBar">' + string('windowTitle'
 
 statusbar = '<widget class="QStatusBar" name="statusBar">' + prop('sizeGripEnabled', '<bool>false</bool>') + '</widget>'
 
+# 8 points: at 9 points "difficulty: Very Easy" (118 px) no longer fits the 110 px of txtLevel.
 window = ('<widget class="QMainWindow" name="SudokuWindowClass">' + rect(0, 0, 609, 709) + policy('Fixed', 'Fixed')
           + size('baseSize', 593, 695) + prop('font', '<font><pointsize>8</pointsize></font>')
           + prop('contextMenuPolicy', '<enum>Qt::NoContextMenu</enum>')

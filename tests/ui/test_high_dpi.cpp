@@ -1,0 +1,176 @@
+// Every text of the main window and its three dialogs fits its widget, and the
+// icons have pictures for twice the size, at whatever scale the screen asks
+// for (ctest runs it on Xvfb at 96, 120, 144 and 192 dpi).
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QRadioButton>
+#include <QStyleOption>
+#include <QTextDocument>
+#include <QtTest>
+
+#include "AboutDialog.h"
+#include "HighDpi.h"
+#include "PencilMarksOptions.h"
+#include "PrintingInfo.h"
+#include "SudokuWindow.h"
+#include "TestPictures.h"
+#include "WindowTestSupport.h"
+
+namespace {
+
+// The room a button leaves for its text, from the style that draws it.
+QRect textRoom(QAbstractButton* b) {
+    QStyleOptionButton opt;
+    opt.initFrom(b);
+    opt.text = b->text();
+    QStyle::SubElement element = QStyle::SE_PushButtonContents;
+    if (qobject_cast<QCheckBox*>(b)) element = QStyle::SE_CheckBoxContents;
+    if (qobject_cast<QRadioButton*>(b)) element = QStyle::SE_RadioButtonContents;
+    return b->style()->subElementRect(element, &opt, b);
+}
+
+// The size a label's text needs, rich text laid out as the label lays it out.
+QSize textSize(QLabel* label) {
+    if (!Qt::mightBeRichText(label->text())) {  // one line of text: its ink must show
+        const QFontMetrics fm = label->fontMetrics();
+        if (label->wordWrap())
+            return fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text()).size();
+        return {fm.horizontalAdvance(label->text()), fm.tightBoundingRect(label->text()).height()};
+    }
+    QTextDocument doc;
+    doc.setDefaultFont(label->font());
+    doc.setDocumentMargin(0);
+    doc.setHtml(label->text());
+    if (!label->wordWrap()) return {int(std::ceil(doc.idealWidth())), 0};
+    doc.setTextWidth(label->contentsRect().width());
+    return {int(std::ceil(doc.idealWidth())), int(std::ceil(doc.size().height()))};
+}
+
+// Every visible text of `top` that does not fit, as "object: text (needed > room)".
+QStringList clipped(QWidget* top) {
+    QStringList out;
+    auto check = [&](QWidget* w, const QString& text, QSize needed, QSize room) {
+        if (needed.width() > room.width() || needed.height() > room.height())
+            out << QString("%1: %2 (%3x%4 > %5x%6)")
+                       .arg(w->objectName(), text.left(60))
+                       .arg(needed.width())
+                       .arg(needed.height())
+                       .arg(room.width())
+                       .arg(room.height());
+    };
+    for (QWidget* w : top->findChildren<QWidget*>()) {
+        if (!w->isVisibleTo(top)) continue;
+        if (auto* l = qobject_cast<QLabel*>(w); l && !l->text().isEmpty()) {
+            check(l, l->text(), textSize(l), l->contentsRect().size());
+        } else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty() && b->icon().isNull()) {
+            QString text = b->text();
+            text.remove(QRegularExpression("&(?!&)"));
+            check(b, text, {b->fontMetrics().horizontalAdvance(text), b->fontMetrics().height()},
+                  textRoom(b).size());
+        } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
+            check(g, g->title(), {g->fontMetrics().horizontalAdvance(g->title()), 0}, g->contentsRect().size());
+        } else if (auto* list = qobject_cast<QListWidget*>(w)) {
+            check(list, "items", {list->sizeHintForColumn(0), 0}, list->viewport()->size());
+        }
+    }
+    return out;
+}
+
+// What the screen shows of a window, saved with the scale in its name.
+void savePicture(QWidget* w, const QString& name) {
+    w->repaint();
+    const QImage shot = w->screen()->grabWindow(w->winId()).toImage();
+    savePicture(shot, QString("scale_%1_%2").arg(w->devicePixelRatioF(), 0, 'f', 2).arg(name));
+}
+
+template <typename T>
+T* child(QWidget& w, const char* name) {
+    T* found = w.findChild<T*>(name);
+    if (!found) qFatal("missing child %s", name);
+    return found;
+}
+
+}  // namespace
+
+class HighDpiTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void mainWindowTextsFitAtEveryLevel_data() {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("level");
+        QTest::newRow("completed") << "actionNewGameCompleted" << "difficulty: none";
+        QTest::newRow("very easy") << "actionNewGameVeryEasy" << "difficulty: Very Easy";
+        QTest::newRow("hard") << "actionNewGameHard" << "difficulty: Hard";
+        QTest::newRow("user edit") << "actionNewGameUserEdit" << "difficulty: user edit";
+    }
+
+    void mainWindowTextsFitAtEveryLevel() {
+        QFETCH(QString, action);
+        QFETCH(QString, level);
+        MessageBoxAnswerer answerer;
+        window().findChild<QAction*>(action)->trigger();
+        QCOMPARE(child<QLabel>(window(), "txtLevel")->text(), level);
+        savePicture(&window(), "window_" + action);
+        const QStringList bad = clipped(&window());
+        QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+    }
+
+    void dialogTextsFit() {
+        PrintingInfo printing;
+        PencilMarksOptions pencilMarks;
+        AboutDialog about("1.0.4", &window());
+        QStringList bad;
+        for (QDialog* dialog : {static_cast<QDialog*>(&printing), static_cast<QDialog*>(&pencilMarks),
+                                static_cast<QDialog*>(&about)}) {
+            dialog->show();
+            QVERIFY(QTest::qWaitForWindowExposed(dialog));
+            bad << clipped(dialog);
+            savePicture(dialog, dialog->objectName());
+        }
+        QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+    }
+
+    // Where a pixel is more than one device pixel, toolbar icons and the
+    // about picture come from the pictures drawn at twice the size.
+    void iconsSharp() {
+        const qreal ratio = window().devicePixelRatioF();
+        qInfo("device pixel ratio %g", ratio);
+        if (ratio <= 1) QSKIP("the screen does not scale");
+        for (QAction* action : window().findChildren<QAction*>()) {
+            if (action->icon().isNull()) continue;
+            QVERIFY2(action->icon().availableSizes().contains(QSize(96, 96)), qPrintable(action->objectName()));
+        }
+        AboutDialog about("1.0.4", &window());
+        auto* picture = child<QLabel>(about, "label");
+        QVERIFY(picture->pixmap(Qt::ReturnByValue).width() >= picture->width() * ratio - 1);
+    }
+
+private:
+    SudokuWindow& window() {
+        if (!mainWindow) {
+            mainWindow.reset(new SudokuWindow);
+            mainWindow->show();
+            if (!QTest::qWaitForWindowExposed(mainWindow.get())) qFatal("window not shown");
+        }
+        return *mainWindow;
+    }
+
+    std::unique_ptr<SudokuWindow> mainWindow;
+};
+
+int main(int argc, char** argv) {
+    enableHighDpiScaling();
+    QApplication app(argc, argv);
+    HighDpiTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_high_dpi.moc"
