@@ -10,6 +10,7 @@ packages=(
   poppler-utils
   xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils
   stress-ng desktop-file-utils appstream ccache
+  dpkg-dev file
 )
 
 missing=()

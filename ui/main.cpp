@@ -6,6 +6,8 @@
 int main(int argc, char** argv) {
     enableHighDpiScaling();
     QApplication app(argc, argv);
+    // Lets the desktop match the window to the installed entry and its icon.
+    QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));
     SudokuWindow window;
     window.show();
     return app.exec();
