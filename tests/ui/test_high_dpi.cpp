@@ -131,7 +131,7 @@ private slots:
         for (QDialog* dialog : {static_cast<QDialog*>(&printing), static_cast<QDialog*>(&pencilMarks),
                                 static_cast<QDialog*>(&about)}) {
             dialog->show();
-            QVERIFY(QTest::qWaitForWindowExposed(dialog));
+            QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
             bad << clipped(dialog);
             savePicture(dialog, dialog->objectName());
         }
@@ -158,7 +158,7 @@ private:
         if (!mainWindow) {
             mainWindow.reset(new SudokuWindow);
             mainWindow->show();
-            if (!QTest::qWaitForWindowExposed(mainWindow.get())) qFatal("window not shown");
+            if (!QTest::qWaitForWindowExposed(mainWindow.get(), 30000)) qFatal("window not shown");
         }
         return *mainWindow;
     }
