@@ -4,9 +4,11 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QLayout>
 #include <QMessageBox>
 #include <QSoundEffect>
 #include <QThread>
+#include <QTimer>
 #include <sstream>
 
 #include "AboutDialog.h"
@@ -90,10 +92,15 @@ void SudokuWindow::cellsChanged(const std::vector<eng::CellInfo*>& cells) {
 }
 
 // Lets the board be painted before the command goes on. While pages are being
-// drawn, the player's input waits until the pages are done: a click in the
-// print preview would otherwise ask for the pages again in the middle of them.
+// drawn no event at all is processed: a timer or a click that reached the print
+// preview in the middle of its pages would ask for them again inside the paint.
+// The board's layouts are brought up to date directly, so it renders as shown.
 void SudokuWindow::repaintNow() {
-    QCoreApplication::processEvents(painting ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
+    if (painting) {
+        for (QLayout* layout : ui->boardWidget->findChildren<QLayout*>()) layout->activate();
+        return;
+    }
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
 }
 
 void SudokuWindow::noMoreMoves(const std::vector<eng::CellInfo*>& cells) {
@@ -146,6 +153,10 @@ void SudokuWindow::playRefusalSound() {
 
 void SudokuWindow::showMessage(int icon, const QString& text) {
     if (closing) return;
+    if (painting) {  // a message box would process events: it waits for the pages
+        QTimer::singleShot(0, this, [this, icon, text] { showMessage(icon, text); });
+        return;
+    }
     BusyScope scope(busy);
     QMessageBox box(static_cast<QMessageBox::Icon>(icon), tr(kTitle), text, QMessageBox::Ok, this);
     box.exec();
