@@ -4,8 +4,10 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLayout>
 #include <QMessageBox>
+#include <QSaveFile>
 #include <QSoundEffect>
 #include <QThread>
 #include <QTimer>
@@ -460,20 +462,23 @@ void SudokuWindow::showWholeBoard() {
     }
 }
 
+// The game is written to a temporary file beside the chosen one, which takes
+// the chosen name only once every byte is out: a save that fails (a full disk)
+// leaves the previous file as it was. Devices and pipes are not save targets.
 void SudokuWindow::saveGame() {
     if (!board || busy) return;
     const QString name = askFileName(FileRequest::Save);
     if (name.isEmpty()) return;
-    QFile file(name);
-    if (file.open(QIODevice::WriteOnly)) {
-        std::ostringstream out(std::ios::binary);
-        if (board->serialize(out)) {
-            // A full disk shows up only when the data is written out.
-            const std::string bytes = out.str();
-            const bool written = file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-                                 static_cast<qint64>(bytes.size());
-            if (written && file.flush()) return;
-        }
+    const QFileInfo target(name);
+    QSaveFile file(name);
+    std::ostringstream out(std::ios::binary);
+    if ((!target.exists() || target.isFile()) && file.open(QIODevice::WriteOnly) && board->serialize(out)) {
+        const std::string bytes = out.str();
+        // The flush is checked on its own: commit() does not see a write error
+        // that shows up only while the buffered bytes are flushed.
+        if (file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) &&
+            file.flush() && file.commit())
+            return;
     }
     showMessage(QMessageBox::Information, tr("Failed to save game"));
 }
