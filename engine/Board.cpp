@@ -202,6 +202,11 @@ bool Board::togglePotential(int index, int value) {
     Cell& cell = current.cells[index];
 
     if (!cell.isPotential(value)) {
+        // A filled cell's value is its only candidate; nothing is added to it.
+        if (cell.value() != 0) {
+            if (observer) observer->potentialRefused(index, value);
+            return false;
+        }
         cell.addPotential(value);
         reportCells();
         return true;

@@ -4,9 +4,13 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLayout>
 #include <QMessageBox>
+#include <QSaveFile>
 #include <QSoundEffect>
 #include <QThread>
+#include <QTimer>
 #include <sstream>
 
 #include "AboutDialog.h"
@@ -90,10 +94,15 @@ void SudokuWindow::cellsChanged(const std::vector<eng::CellInfo*>& cells) {
 }
 
 // Lets the board be painted before the command goes on. While pages are being
-// drawn, the player's input waits until the pages are done: a click in the
-// print preview would otherwise ask for the pages again in the middle of them.
+// drawn no event at all is processed: a timer or a click that reached the print
+// preview in the middle of its pages would ask for them again inside the paint.
+// The board's layouts are brought up to date directly, so it renders as shown.
 void SudokuWindow::repaintNow() {
-    QCoreApplication::processEvents(painting ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
+    if (painting) {
+        for (QLayout* layout : ui->boardWidget->findChildren<QLayout*>()) layout->activate();
+        return;
+    }
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
 }
 
 void SudokuWindow::noMoreMoves(const std::vector<eng::CellInfo*>& cells) {
@@ -146,6 +155,10 @@ void SudokuWindow::playRefusalSound() {
 
 void SudokuWindow::showMessage(int icon, const QString& text) {
     if (closing) return;
+    if (painting) {  // a message box would process events: it waits for the pages
+        QTimer::singleShot(0, this, [this, icon, text] { showMessage(icon, text); });
+        return;
+    }
     BusyScope scope(busy);
     QMessageBox box(static_cast<QMessageBox::Icon>(icon), tr(kTitle), text, QMessageBox::Ok, this);
     box.exec();
@@ -449,20 +462,23 @@ void SudokuWindow::showWholeBoard() {
     }
 }
 
+// The game is written to a temporary file beside the chosen one, which takes
+// the chosen name only once every byte is out: a save that fails (a full disk)
+// leaves the previous file as it was. Devices and pipes are not save targets.
 void SudokuWindow::saveGame() {
     if (!board || busy) return;
     const QString name = askFileName(FileRequest::Save);
     if (name.isEmpty()) return;
-    QFile file(name);
-    if (file.open(QIODevice::WriteOnly)) {
-        std::ostringstream out(std::ios::binary);
-        if (board->serialize(out)) {
-            // A full disk shows up only when the data is written out.
-            const std::string bytes = out.str();
-            const bool written = file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-                                 static_cast<qint64>(bytes.size());
-            if (written && file.flush()) return;
-        }
+    const QFileInfo target(name);
+    QSaveFile file(name);
+    std::ostringstream out(std::ios::binary);
+    if ((!target.exists() || target.isFile()) && file.open(QIODevice::WriteOnly) && board->serialize(out)) {
+        const std::string bytes = out.str();
+        // The flush is checked on its own: commit() does not see a write error
+        // that shows up only while the buffered bytes are flushed.
+        if (file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) &&
+            file.flush() && file.commit())
+            return;
     }
     showMessage(QMessageBox::Information, tr("Failed to save game"));
 }

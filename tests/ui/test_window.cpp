@@ -10,6 +10,8 @@
 #include <QtTest>
 #include <cstdlib>
 #include <fstream>
+#include <sys/mount.h>
+#include <unistd.h>
 
 #include "SudokuWindow.h"
 #include "TestPictures.h"
@@ -492,7 +494,7 @@ private slots:
         window->setFileNameProvider([&](SudokuWindow::FileRequest) { return dir.filePath("no/such/dir/x.sud"); });
         action(*window, "actionSaveGame")->trigger();
         QCOMPARE(answerer.texts.last(), QString("Failed to save game"));
-        if (QFile::exists("/dev/full")) {  // opens, but every write fails as on a full disk
+        if (QFile::exists("/dev/full")) {  // a device is no place for a saved game
             answerer.texts.clear();
             window->setFileNameProvider([&](SudokuWindow::FileRequest) { return QString("/dev/full"); });
             action(*window, "actionSaveGame")->trigger();
@@ -501,6 +503,39 @@ private slots:
         // The game is still playable.
         action(*window, "actionMakeMove")->trigger();
         QVERIFY(shownValues(*window) != shown);
+    }
+
+    void failedSaveKeepsThePreviousFile() {
+        // A 64 KiB file system that fills up between two saves.
+        if (geteuid() != 0) QSKIP("mounting a small tmpfs needs root");
+        QTemporaryDir dir;
+        const QByteArray mnt = QFile::encodeName(dir.path());
+        if (mount("tmpfs", mnt.constData(), "tmpfs", 0, "size=64k") != 0) QSKIP("cannot mount a tmpfs here");
+        struct Unmount {
+            const char* path;
+            ~Unmount() { umount2(path, MNT_DETACH); }
+        } unmount{mnt.constData()};
+        const QString path = dir.filePath("game.sud");
+        window->setFileNameProvider([&](SudokuWindow::FileRequest) { return path; });
+        MessageBoxAnswerer answerer;
+        auto contents = [&path] {
+            QFile f(path);
+            return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+        };
+        action(*window, "actionSaveGame")->trigger();
+        const QByteArray first = contents();
+        QVERIFY(first.size() > 1836);
+        {
+            QFile fill(dir.filePath("fill"));
+            QVERIFY(fill.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+            while (fill.write(QByteArray(4096, 'x')) == 4096) {}
+            while (fill.write("x", 1) == 1) {}
+        }
+        action(*window, "actionMakeMove")->trigger();  // a longer game to save
+        action(*window, "actionSaveGame")->trigger();
+        QCOMPARE(answerer.texts, QStringList{"Failed to save game"});
+        QCOMPARE(contents(), first);
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{"fill", "game.sud"}));
     }
 
     void inputDuringBusyCommandsIsIgnored() {
