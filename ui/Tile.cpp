@@ -74,11 +74,10 @@ Tile::Tile(QWidget* parent) : QWidget(parent), ui(new Ui::Tile) {
     ui->setupUi(this);
     QLabel* labels[9] = {ui->lbl1, ui->lbl2, ui->lbl3, ui->lbl4, ui->lbl5,
                          ui->lbl6, ui->lbl7, ui->lbl8, ui->lbl9};
-    const QPalette palette = candidatePalette();
-    for (int i = 0; i < 9; ++i) {
-        potentials[i] = labels[i];
-        potentials[i]->setPalette(palette);
-    }
+    // The candidates take their palette from the grid that holds them: one
+    // palette to resolve instead of nine whenever the tile is restyled.
+    ui->layoutWidget->setPalette(candidatePalette());
+    for (int i = 0; i < 9; ++i) potentials[i] = labels[i];
     valueLabel = ui->lblValue;
     index_ = -1;
     highlighted = false;
