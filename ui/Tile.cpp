@@ -53,13 +53,8 @@ QPalette candidatePalette() {
 
 // Every assignment below re-polishes the widget and its children, so the
 // display is only touched where it differs from what the widget already has.
-// A sheet assigned before the widget is first polished does not reach the
-// children that were styled already (the tile's frame keeps the form's white),
-// so the widget is polished first.
 void setSheet(QWidget* widget, const QString& sheet) {
-    if (widget->styleSheet() == sheet) return;
-    widget->ensurePolished();
-    widget->setStyleSheet(sheet);
+    if (widget->styleSheet() != sheet) widget->setStyleSheet(sheet);
 }
 
 void setShown(QWidget* widget, bool shown) {
@@ -98,6 +93,11 @@ void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
                           : caretMode == NoCaret                 ? &styleTileNormal
                                                                  : nullptr;
     if (!highlighted) {
+        // Before the tile is first polished, its children are styled already
+        // and a new sheet would not reach them: the given grey is applied on a
+        // polished tile. The normal sheet looks like the form's white, and
+        // reaches the screen with the next restyle.
+        if (base == &styleTileGiven) ensurePolished();
         if (base) setSheet(this, *base);
     } else if (cell.value() == value()) {
         // Still the highlighted value: stays pink, and ends on its new base.
@@ -180,6 +180,11 @@ bool Tile::hasValue() const { return valueLabel->text() != QLatin1String("0"); }
 int Tile::value() const { return valueLabel->text().toInt(nullptr, 10); }
 
 void Tile::highlightValue(int newValue, int oldValue) {
+    // Re-applying the highlight to a tile that shows it: updates keep a
+    // highlighted tile pink, so there is nothing to undo and redo.
+    if (newValue != 0 && newValue == oldValue && highlighted && value() == newValue &&
+        styleSheet() == styleHighlight)
+        return;
     if (oldValue != 0 && value() == oldValue && highlighted) {
         setSheet(this, savedStyleSheet);
         highlighted = false;
