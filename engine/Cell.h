@@ -46,7 +46,15 @@ namespace eng_priv {
 using Mask = unsigned;
 constexpr Mask kAllValues = 0x1FF;
 constexpr Mask bitOf(int value) { return 1u << (value - 1); }
-inline int countOf(Mask m) { return __builtin_popcount(m); }
+// The number of values in a set (any 9-bit set: of values or of positions).
+struct CountTable {
+    unsigned char counts[512];
+    constexpr CountTable() : counts() {
+        for (int m = 1; m < 512; ++m) counts[m] = static_cast<unsigned char>(counts[m >> 1] + (m & 1));
+    }
+};
+inline constexpr CountTable kCounts{};
+inline int countOf(Mask m) { return kCounts.counts[m & 0x1FF]; }
 // The lowest value of a non-empty set.
 inline int lowestOf(Mask m) { return __builtin_ctz(m) + 1; }
 

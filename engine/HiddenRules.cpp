@@ -59,33 +59,42 @@ bool RuleSolver::applyHidden(int n) {
 // candidates can be chosen, so a value that stands in a settled cell, or in
 // more than n cells, is never hidden; with fewer than n other values no subset
 // can be.
+const RuleSolver::Survey& RuleSolver::survey(int t) {
+    Survey& s = surveys[t];
+    if (s.at == changedAt[t]) return s;
+    const int* tc = kTuples.cells[t];
+    s.at = changedAt[t];
+    s.open = 0;
+    for (unsigned& w : s.where) w = 0;
+    for (int pos = 0; pos < 9; ++pos) {
+        const Cell& cell = cells[tc[pos]];
+        if (cell.value() == 0 && cell.count() != 1) s.open |= 1u << pos;
+        for (Mask m = cell.mask(); m; m &= m - 1) s.where[__builtin_ctz(m)] |= 1u << pos;
+    }
+    return s;
+}
+
 bool RuleSolver::hiddenIn(int n, int t) {
     const int* tc = kTuples.cells[t];
-    unsigned where[9];  // where[v-1]: the positions holding value v
-    unsigned open = 0;  // positions that can be chosen
+    const Survey* s = &survey(t);
     Mask hideable = 0;
-    auto survey = [&] {
-        open = 0;
-        for (unsigned& w : where) w = 0;
-        for (int pos = 0; pos < 9; ++pos) {
-            const Cell& cell = cells[tc[pos]];
-            if (cell.value() == 0 && cell.count() != 1) open |= 1u << pos;
-            for (Mask m = cell.mask(); m; m &= m - 1) where[__builtin_ctz(m)] |= 1u << pos;
-        }
+    auto findHideable = [&] {
         hideable = 0;
-        for (int v = 0; v < 9; ++v)
-            if (where[v] && !(where[v] & ~open) && countOf(where[v]) <= n) hideable |= 1u << v;
+        for (int v = 0; v < 9; ++v) {
+            const unsigned w = s->where[v];
+            if (w && !(w & ~s->open) && countOf(w) <= n) hideable |= 1u << v;
+        }
     };
-    survey();
+    findHideable();
     bool changed = false;
     for (int k = 0; k < kSubsets.size[n]; ++k) {
         if (countOf(hideable) < n) break;
         const unsigned chosen = kSubsets.masks[n][k];
-        if (chosen & ~open) continue;
+        if (chosen & ~s->open) continue;
         Mask values = 0;
         for (Mask m = hideable; m; m &= m - 1) {
             const int v = __builtin_ctz(m);
-            if (!(where[v] & ~chosen)) values |= 1u << v;
+            if (!(s->where[v] & ~chosen)) values |= 1u << v;
         }
         if (countOf(values) < n) continue;
         if (countOf(values) > n) {
@@ -100,7 +109,10 @@ bool RuleSolver::hiddenIn(int n, int t) {
         const unsigned before = clock;
         for (int pos = 0; pos < 9; ++pos)
             if (chosen & (1u << pos)) changed = keepOnly(tc[pos], values) || changed;
-        if (clock != before) survey();
+        if (clock != before) {
+            s = &survey(t);
+            findHideable();
+        }
     }
     return changed;
 }

@@ -19,6 +19,7 @@ constexpr TupleTable makeTuples() {
         t.of[i][0] = r;
         t.of[i][1] = kColumnsFirst + c;
         t.of[i][2] = kSquaresFirst + s;
+        for (int tuple : t.of[i]) t.bits[tuple][i >> 6] |= 1ull << (i & 63);
     }
     return t;
 }
@@ -79,6 +80,7 @@ void RuleSolver::begin(BoardSnapshot& s) {
     clock = 1;
     std::fill(std::begin(changedAt), std::end(changedAt), 1u);
     std::memset(cleanAt, 0, sizeof cleanAt);
+    for (Survey& s : surveys) s.at = 0;
     pairCells[0] = pairCells[1] = 0;
     for (int i = 0; i < 81; ++i)
         if (isPair(i)) pairCells[i >> 6] |= 1ull << (i & 63);
@@ -122,8 +124,7 @@ bool RuleSolver::applyRule(Rules rule) {
     return false;
 }
 
-bool RuleSolver::remove(int cell, Mask values) {
-    if (!(cells[cell].mask() & values)) return false;
+bool RuleSolver::removeNow(int cell, Mask values) {
     noteChange(cell);
     cells[cell].removeValues(values);
     if (isPair(cell)) pairCells[cell >> 6] |= 1ull << (cell & 63);
@@ -149,9 +150,11 @@ bool RuleSolver::removeFromOthers(int tuple, Mask value, int keep1, int keep2, i
 
 bool RuleSolver::isPair(int cell) const { return cells[cell].value() == 0 && cells[cell].count() == 2; }
 
-int RuleSolver::nextPair(int from) const {
+// The first index from `from` on in the set, 81 when there is none.
+int RuleSolver::nextIn(const unsigned long long (&set)[2], int from) {
+    if (from > 80) return 81;
     for (int word = from >> 6; word < 2; ++word) {
-        unsigned long long bits = pairCells[word];
+        unsigned long long bits = set[word];
         if (word == from >> 6) bits &= ~0ull << (from & 63);
         if (bits) return word * 64 + __builtin_ctzll(bits);
     }
@@ -174,10 +177,24 @@ void RuleSolver::markCleanIfUnchanged(Check check, unsigned since, int kinds) {
 
 // A cell with a single potential value removes it from the other cells of the
 // tuples the mask selects (1 row, 2 column, 4 square), in that order.
+// Only cells of tuples that are not clean are visited; the set of those cells
+// follows every removal, so the visits keep the order of a full scan.
 bool RuleSolver::applySingles(int mask) {
     const unsigned start = clock;
+    unsigned seen = 0;
+    unsigned long long dirty[2] = {};
+    auto findDirty = [&] {
+        seen = clock;
+        dirty[0] = dirty[1] = 0;
+        for (int t = 0; t < kTupleCount; ++t) {
+            if (!(mask & (1 << (t / 9))) || isClean(checkSingles, t)) continue;
+            dirty[0] |= kTuples.bits[t][0];
+            dirty[1] |= kTuples.bits[t][1];
+        }
+    };
+    findDirty();
     bool changed = false;
-    for (int i = 0; i < 81; ++i) {
+    for (int i = nextIn(dirty, 0); i < 81; i = nextIn(dirty, i + 1)) {
         const Mask m = cells[i].mask();
         if (countOf(m) != 1) continue;
         for (int kind = 0; kind < 3; ++kind) {
@@ -185,6 +202,7 @@ bool RuleSolver::applySingles(int mask) {
             if (!(mask & (1 << kind)) || isClean(checkSingles, t)) continue;
             changed = removeFromOthers(t, m, i) || changed;
         }
+        if (clock != seen) findDirty();
     }
     markCleanIfUnchanged(checkSingles, start, mask);
     return changed;

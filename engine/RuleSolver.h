@@ -28,6 +28,7 @@ constexpr int kSquaresFirst = 18;
 struct TupleTable {
     int cells[kTupleCount][9];
     int of[81][3];  // a cell's row, column and square tuples
+    unsigned long long bits[kTupleCount][2];  // a tuple's cells as a set of indices
 };
 extern const TupleTable kTuples;
 
@@ -70,19 +71,31 @@ private:
     unsigned changedAt[kTupleCount];
     unsigned cleanAt[checkCount][kTupleCount];
     unsigned long long pairCells[2];  // empty cells with two candidates, by index
+    // Where each value stands in a tuple, and which positions the hidden
+    // rules may choose, as of the tuple's change stamp `at`.
+    struct Survey {
+        unsigned at;
+        unsigned where[9];
+        unsigned open;
+    } surveys[kTupleCount];
 
     void begin(BoardSnapshot& snapshot);
     bool runPass();
     bool applyRule(eng::Rules rule);
 
     // Every removal goes through these, which keep the change stamps.
-    bool remove(int cell, Mask values);
+    bool remove(int cell, Mask values) {
+        if (!(cells[cell].mask() & values)) return false;
+        return removeNow(cell, values);
+    }
+    bool removeNow(int cell, Mask values);
     bool keepOnly(int cell, Mask values);
     void noteChange(int cell);
     bool removeFromOthers(int tuple, Mask value, int keep1, int keep2 = -1, int keep3 = -1);
 
     bool isPair(int cell) const;
-    int nextPair(int from) const;
+    int nextPair(int from) const { return nextIn(pairCells, from); }
+    static int nextIn(const unsigned long long (&set)[2], int from);
     bool anyModified(int tuple) const;
     bool isClean(Check check, int tuple) const { return changedAt[tuple] <= cleanAt[check][tuple]; }
     void markCleanIfUnchanged(Check check, unsigned since, int kinds = 7);
@@ -97,6 +110,7 @@ private:
     bool removeLocked(int tuple, const int (&segment)[3], int target);
     bool applyHidden(int n);
     bool hiddenIn(int n, int tuple);
+    const Survey& survey(int tuple);
 };
 
 }  // namespace eng_priv
