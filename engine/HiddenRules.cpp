@@ -41,12 +41,35 @@ const char* const kTupleNames[3] = {"row", "column", "square"};
 
 }  // namespace
 
+// The values that stand in at least one and at most n cells of a tuple, all
+// of them empty with two or more candidates: the only values a subset of n
+// cells can hide. Counts are kept per value as bit slices.
+Mask RuleSolver::hideableValues(int n, int t) const {
+    Mask atLeast[6] = {};  // atLeast[k]: the values in k or more open cells
+    Mask settled = 0;      // values of filled or settled cells
+    for (int i : kTuples.cells[t]) {
+        const Cell& cell = cells[i];
+        const Mask m = cell.mask();
+        if (cell.value() != 0 || countOf(m) == 1) {
+            settled |= m;
+            continue;
+        }
+        for (int k = 5; k > 1; --k) atLeast[k] |= atLeast[k - 1] & m;
+        atLeast[1] |= m;
+    }
+    return atLeast[1] & ~atLeast[n + 1] & ~settled;
+}
+
 bool RuleSolver::applyHidden(int n) {
     const Check check = static_cast<Check>(checkHidden + n - 1);
     bool changed = false;
     for (int k = 0; k < 9; ++k) {
         for (int t : {k, kColumnsFirst + k, kSquaresFirst + k}) {
             if (!anyModified(t) || isClean(check, t)) continue;
+            if (countOf(hideableValues(n, t)) < n) {
+                cleanAt[check][t] = clock;
+                continue;
+            }
             const unsigned before = clock;
             changed = hiddenIn(n, t) || changed;
             if (clock == before) cleanAt[check][t] = clock;

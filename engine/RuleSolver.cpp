@@ -82,6 +82,7 @@ void RuleSolver::begin(BoardSnapshot& s) {
     std::memset(cleanAt, 0, sizeof cleanAt);
     for (Survey& s : surveys) s.at = 0;
     pairCells[0] = pairCells[1] = 0;
+    touched = 0;
     for (int i = 0; i < 81; ++i)
         if (isPair(i)) pairCells[i >> 6] |= 1ull << (i & 63);
 }
@@ -137,7 +138,10 @@ bool RuleSolver::keepOnly(int cell, Mask values) { return remove(cell, ~values &
 // bit again once the removal is done (a contradiction ends the pass anyway).
 void RuleSolver::noteChange(int cell) {
     ++clock;
-    for (int t : kTuples.of[cell]) changedAt[t] = clock;
+    for (int t : kTuples.of[cell]) {
+        changedAt[t] = clock;
+        touched |= 1u << t;
+    }
     pairCells[cell >> 6] &= ~(1ull << (cell & 63));
 }
 
@@ -177,32 +181,58 @@ void RuleSolver::markCleanIfUnchanged(Check check, unsigned since, int kinds) {
 
 // A cell with a single potential value removes it from the other cells of the
 // tuples the mask selects (1 row, 2 column, 4 square), in that order.
-// Only cells of tuples that are not clean are visited; the set of those cells
-// follows every removal, so the visits keep the order of a full scan.
+// A tuple in which no single's value stands in another cell is clean as it
+// is. Only cells of the other tuples are visited; that set grows with every
+// tuple a removal touches, so the visits keep the order of a full scan.
 bool RuleSolver::applySingles(int mask) {
     const unsigned start = clock;
-    unsigned seen = 0;
+    unsigned seen = clock;
     unsigned long long dirty[2] = {};
-    auto findDirty = [&] {
-        seen = clock;
-        dirty[0] = dirty[1] = 0;
-        for (int t = 0; t < kTupleCount; ++t) {
-            if (!(mask & (1 << (t / 9))) || isClean(checkSingles, t)) continue;
-            dirty[0] |= kTuples.bits[t][0];
-            dirty[1] |= kTuples.bits[t][1];
+    unsigned selected = 0;
+    for (int kind = 0; kind < 3; ++kind)
+        if (mask & (1 << kind)) selected |= 0x1FFu << (9 * kind);
+    touched = 0;
+    unsigned checkedAt[kTupleCount] = {};  // when a tuple was last found to have work
+    // Marks the tuple clean when no single's value stands in another of its cells.
+    auto hasWork = [&](int t) {
+        if (checkedAt[t] >= changedAt[t]) return true;
+        Mask once = 0, twice = 0, singles = 0;
+        for (int i : kTuples.cells[t]) {
+            const Mask m = cells[i].mask();
+            twice |= once & m;
+            once |= m;
+            if (countOf(m) == 1) singles |= m;
         }
+        if (singles & twice) {
+            checkedAt[t] = clock;
+            return true;
+        }
+        cleanAt[checkSingles][t] = clock;
+        return false;
     };
-    findDirty();
+    for (unsigned tuples = selected; tuples; tuples &= tuples - 1) {
+        const int t = __builtin_ctz(tuples);
+        if (isClean(checkSingles, t) || !hasWork(t)) continue;
+        dirty[0] |= kTuples.bits[t][0];
+        dirty[1] |= kTuples.bits[t][1];
+    }
     bool changed = false;
     for (int i = nextIn(dirty, 0); i < 81; i = nextIn(dirty, i + 1)) {
         const Mask m = cells[i].mask();
         if (countOf(m) != 1) continue;
         for (int kind = 0; kind < 3; ++kind) {
             const int t = kTuples.of[i][kind];
-            if (!(mask & (1 << kind)) || isClean(checkSingles, t)) continue;
+            if (!(mask & (1 << kind)) || isClean(checkSingles, t) || !hasWork(t)) continue;
             changed = removeFromOthers(t, m, i) || changed;
         }
-        if (clock != seen) findDirty();
+        if (clock != seen) {
+            for (unsigned t = touched & selected; t; t &= t - 1) {
+                dirty[0] |= kTuples.bits[__builtin_ctz(t)][0];
+                dirty[1] |= kTuples.bits[__builtin_ctz(t)][1];
+            }
+            touched = 0;
+            seen = clock;
+        }
     }
     markCleanIfUnchanged(checkSingles, start, mask);
     return changed;

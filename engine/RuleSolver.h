@@ -69,6 +69,7 @@ private:
     Cell* cells = nullptr;
     unsigned clock = 0;
     unsigned changedAt[kTupleCount];
+    unsigned touched = 0;  // tuples changed since the singles rule last looked, one bit each
     unsigned cleanAt[checkCount][kTupleCount];
     unsigned long long pairCells[2];  // empty cells with two candidates, by index
     // Where each value stands in a tuple, and which positions the hidden
@@ -110,6 +111,7 @@ private:
     bool removeLocked(int tuple, const int (&segment)[3], int target);
     bool applyHidden(int n);
     bool hiddenIn(int n, int tuple);
+    Mask hideableValues(int n, int tuple) const;
     const Survey& survey(int tuple);
 };
 
