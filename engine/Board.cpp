@@ -108,7 +108,7 @@ bool Board::placeValue(BoardSnapshot& s, RuleSolver& solver, int index, int valu
     return runRules(s, solver, rulesChanged);
 }
 
-int Board::revealPreset() const {
+int Board::revealPreset(int level) {
     switch (level) {
     case lvlCompleted:
     case lvlVeryEasy: return eng_priv::presetLineSingles;
@@ -131,7 +131,7 @@ bool Board::placeValueAs(int index, int value, PlaceKind kind) {
         break;
     case placeReveal:
         origin = originGiven;
-        propagationPreset = revealPreset();
+        propagationPreset = revealPreset(level);
         break;
     case placeHint: origin = originMove; break;
     case placePlayer: origin = originPlayer; break;

@@ -106,7 +106,8 @@ private:
     void reportCells();
     void reportNoMoreMoves();
     void cellViews(std::vector<CellInfo*>& out);
-    int revealPreset() const;
+    // The preset that reveals, and so grades, a level.
+    static int revealPreset(int level);
 
     // History.
     void resetToFirst();
