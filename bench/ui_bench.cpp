@@ -48,7 +48,7 @@ TimedWindow& window() {
     static TimedWindow* w = [] {
         auto* created = new TimedWindow;
         created->show();
-        QTest::qWaitForWindowExposed(created);
+        if (!QTest::qWaitForWindowExposed(created)) std::fprintf(stderr, "window not exposed\n");
         return created;
     }();
     QCoreApplication::processEvents();
