@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QPointer>
+#include <QStyle>
 #include <QThread>
 
 #include "ui_Tile.h"
@@ -97,8 +98,15 @@ void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
         // and a new sheet would not reach them: the given grey is applied on a
         // polished tile. The normal sheet looks like the form's white, and
         // reaches the screen with the next restyle.
-        if (base == &styleTileGiven) ensurePolished();
-        if (base) setSheet(this, *base);
+        if (base == &styleTileGiven && !testAttribute(Qt::WA_WState_Polished)) {
+            setSheet(this, styleTileGiven);
+            // Asking the style about the tile makes its first polish read the
+            // sheet afresh: the tile and its children are polished once, grey.
+            style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, this);
+            ensurePolished();
+        } else if (base) {
+            setSheet(this, *base);
+        }
     } else if (cell.value() == value()) {
         // Still the highlighted value: stays pink, and ends on its new base.
         if (base) savedStyleSheet = *base;
