@@ -17,9 +17,9 @@ BoardObserver::~BoardObserver() = default;
 
 namespace {
 
-// The consistency preset: the board runs it to learn whether a position
+// The board runs the consistency preset to learn whether a position
 // contradicts itself, and the search validates its guesses with it.
-constexpr int kConsistencyPreset = 4;
+using eng_priv::presetConsistency;
 
 bool randomSeeded = false;
 
@@ -42,23 +42,17 @@ const CellInfo* Board::cell(int index) const {
 }
 
 int Board::solutionValue(int index) const {
-    const BoardSnapshot* s = masterSolution.solution;
+    const BoardSnapshot* s = masterSolution.solution.get();
     if (!s || !validIndex(index)) return 0;
     return s->cells[index].value();
 }
 
 void Board::clear() {
-    while (!undone.empty()) {
-        delete undone.back();
-        undone.pop_back();
-    }
-    while (!history.empty()) {
-        delete history.back();
-        history.pop_back();
-    }
+    undone.clear();
+    history.clear();
     masterSolution.reset();
-    level = 0;
-    phase = 0;
+    level = lvlCompleted;
+    phase = phaseNone;
     attempt = 0;
 }
 
@@ -93,12 +87,10 @@ bool Board::runRulesFromValues(RuleSolver& solver, BoardSnapshot& s) {
 }
 
 bool Board::isConsistent(const BoardSnapshot& s) {
-    RuleSolver solver(kConsistencyPreset);
-    BoardSnapshot* working = s.copy();
+    RuleSolver solver(presetConsistency);
+    BoardSnapshot working(s);
     bool changed = false;
-    const bool result = runRules(*working, solver, changed);
-    delete working;
-    return result;
+    return runRules(working, solver, changed);
 }
 
 bool Board::placeValue(BoardSnapshot& s, RuleSolver& solver, int index, int value, int origin) {
@@ -116,13 +108,13 @@ bool Board::placeValue(BoardSnapshot& s, RuleSolver& solver, int index, int valu
     return runRules(s, solver, rulesChanged);
 }
 
-int Board::revealPreset() const {
+int Board::revealPreset(int level) {
     switch (level) {
     case lvlCompleted:
-    case lvlVeryEasy: return 0;
-    case lvlEasy: return 1;
-    case lvlMedium: return 2;
-    default: return 3;
+    case lvlVeryEasy: return eng_priv::presetLineSingles;
+    case lvlEasy: return eng_priv::presetSingles;
+    case lvlMedium: return eng_priv::presetPairs;
+    default: return eng_priv::presetFull;
     }
 }
 
@@ -131,15 +123,15 @@ bool Board::placeValueAs(int index, int value, PlaceKind kind) {
 
     int origin = originPlayer;
     bool validate = false;
-    std::list<Rules> propagation = pencilMarksRules;
+    int propagationPreset = -1;  // -1: the player's pencil-mark rules
     switch (kind) {
     case placeFill:
         origin = originGiven;
-        propagation = RuleSolver::preset(kConsistencyPreset);
+        propagationPreset = presetConsistency;
         break;
     case placeReveal:
         origin = originGiven;
-        propagation = RuleSolver::preset(revealPreset());
+        propagationPreset = revealPreset(level);
         break;
     case placeHint: origin = originMove; break;
     case placePlayer: origin = originPlayer; break;
@@ -154,21 +146,16 @@ bool Board::placeValueAs(int index, int value, PlaceKind kind) {
     }
 
     if (validate) {
-        RuleSolver validator(kConsistencyPreset);
-        BoardSnapshot* trial = history.back()->copy();
-        const bool ok = placeValue(*trial, validator, index, value, origin);
-        delete trial;
-        if (!ok) return false;
+        RuleSolver validator(presetConsistency);
+        BoardSnapshot trial(*history.back());
+        if (!placeValue(trial, validator, index, value, origin)) return false;
     }
 
-    RuleSolver propagator(std::move(propagation));
-    BoardSnapshot* next = history.back()->copy();
-    if (!placeValue(*next, propagator, index, value, origin)) {
-        delete next;
-        return false;
-    }
+    RuleSolver propagator = propagationPreset < 0 ? RuleSolver(pencilMarksRules) : RuleSolver(propagationPreset);
+    auto next = history.back()->copy();
+    if (!placeValue(*next, propagator, index, value, origin)) return false;
     next->guess = eng_priv::Guess(index, value);
-    history.push_back(next);
+    history.push_back(std::move(next));
     return true;
 }
 
@@ -202,6 +189,11 @@ bool Board::togglePotential(int index, int value) {
     Cell& cell = current.cells[index];
 
     if (!cell.isPotential(value)) {
+        // A filled cell's value is its only candidate; nothing is added to it.
+        if (cell.value() != 0) {
+            if (observer) observer->potentialRefused(index, value);
+            return false;
+        }
         cell.addPotential(value);
         reportCells();
         return true;
@@ -228,26 +220,19 @@ bool Board::togglePotential(int index, int value) {
         return true;
     }
 
-    BoardSnapshot* next = current.copy();
+    auto next = current.copy();
     try {
         next->cells[index].removePotential(value, true);
     } catch (ExCellConflict& conflict) {
         conflict.describe();
-        delete next;
         return refuse();
     }
-    if (!isConsistent(*next)) {
-        delete next;
-        return refuse();
-    }
+    if (!isConsistent(*next)) return refuse();
     RuleSolver solver(pencilMarksRules);
     bool changed = false;
-    if (!runRules(*next, solver, changed)) {
-        delete next;
-        return refuse();
-    }
+    if (!runRules(*next, solver, changed)) return refuse();
     next->guess = current.guess;
-    history.push_back(next);
+    history.push_back(std::move(next));
     reportCells();
     return true;
 }
@@ -261,15 +246,13 @@ void Board::applyPencilMarksRule(Rules rule) { applyRulesList({rule}); }
 
 void Board::applyRulesList(std::list<Rules> rules) {
     if (history.size() < 2) return;
-    BoardSnapshot* next = history.back()->copy();
-    RuleSolver solver(std::move(rules));
+    auto next = history.back()->copy();
+    RuleSolver solver(rules);
     bool changed = false;
     if (runRules(*next, solver, changed) && changed) {
         next->guess = history.back()->guess;
-        history.push_back(next);
+        history.push_back(std::move(next));
         reportCells();
-    } else {
-        delete next;
     }
 }
 
@@ -283,7 +266,7 @@ void Board::cellViews(std::vector<CellInfo*>& out) {
 }
 
 void Board::reportCells() {
-    if (phase != 3 || !observer || history.empty()) return;
+    if (phase != phasePlaying || !observer || history.empty()) return;
     std::vector<CellInfo*> cells;
     cellViews(cells);
     observer->cellsChanged(cells);
@@ -301,7 +284,7 @@ void Board::reportNoMoreMoves() {
 
 bool Board::retract() {
     if (history.size() < 2) return false;
-    undone.push_back(history.back());
+    undone.push_back(std::move(history.back()));
     history.pop_back();
     reportCells();
     return true;
@@ -309,13 +292,10 @@ bool Board::retract() {
 
 void Board::resetToFirst() {
     if (history.empty()) {
-        history.push_back(new BoardSnapshot());
+        history.push_back(std::make_unique<BoardSnapshot>());
         return;
     }
-    while (history.size() > 1) {
-        delete history.back();
-        history.pop_back();
-    }
+    history.resize(1);
 }
 
 }  // namespace eng

@@ -5,6 +5,7 @@
 
 #include <deque>
 #include <list>
+#include <memory>
 #include <vector>
 
 #include "BoardSnapshot.h"
@@ -26,6 +27,15 @@ enum Level : int {
     lvlMedium = 3,
     lvlHard = 4,
     lvlUserEdit = 5,
+};
+
+// Phases of a board: generation fills a solution, then reveals givens; a game
+// is played in the last phase, the only one that reports cells.
+enum Phase : int {
+    phaseNone = 0,
+    phaseFilling = 1,
+    phaseRevealing = 2,
+    phasePlaying = 3,
 };
 
 class BoardObserver {
@@ -77,10 +87,10 @@ private:
     friend class BoardTestAccess;
 
     eng_priv::MasterSolution masterSolution;
-    std::deque<eng_priv::BoardSnapshot*> history;
-    std::deque<eng_priv::BoardSnapshot*> undone;
-    int level = 0;
-    int phase = 0;
+    std::deque<std::unique_ptr<eng_priv::BoardSnapshot>> history;
+    std::deque<std::unique_ptr<eng_priv::BoardSnapshot>> undone;
+    int level = lvlCompleted;
+    int phase = phaseNone;
     int attempt = 0;
     BoardObserver* observer = nullptr;
     std::list<Rules> pencilMarksRules;
@@ -96,7 +106,8 @@ private:
     void reportCells();
     void reportNoMoreMoves();
     void cellViews(std::vector<CellInfo*>& out);
-    int revealPreset() const;
+    // The preset that reveals, and so grades, a level.
+    static int revealPreset(int level);
 
     // History.
     void resetToFirst();

@@ -6,9 +6,9 @@ BoardSnapshot::BoardSnapshot() {
     for (int i = 0; i < 81; ++i) cells[i].reset(i);
 }
 
-BoardSnapshot* BoardSnapshot::copy() const {
-    auto* result = new BoardSnapshot();
-    for (int i = 0; i < 81; ++i) result->cells[i] = cells[i];
+std::unique_ptr<BoardSnapshot> BoardSnapshot::copy() const {
+    auto result = std::make_unique<BoardSnapshot>(*this);
+    result->guess = Guess();
     return result;
 }
 

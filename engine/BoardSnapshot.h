@@ -1,6 +1,7 @@
 #pragma once
 // One complete position of a game and the move that produced it.
 
+#include <memory>
 #include <vector>
 
 #include "Cell.h"
@@ -26,8 +27,8 @@ public:
 
     BoardSnapshot();
 
-    // A field-by-field copy of the cells; the copy's guess is (-1, 0).
-    BoardSnapshot* copy() const;
+    // A copy of the whole position whose guess is (-1, 0).
+    std::unique_ptr<BoardSnapshot> copy() const;
     // Fills out with the empty cells in index order; true when there are any.
     bool emptyCells(std::vector<Cell*>& out);
     bool isFull() const;

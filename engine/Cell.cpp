@@ -27,91 +27,72 @@ void CellInfo::setIndex(int index) {
 
 namespace eng_priv {
 
+using eng::CellConflict;
+
 namespace {
 bool inRange(int value) { return value >= 1 && value <= 9; }
 }  // namespace
 
-Cell::Cell() : potentialCount(9), modified(false) {
-    for (bool& p : potential) p = true;
-}
+Cell::Cell() = default;
 
-bool Cell::isPotential(int value) const { return inRange(value) && potential[value - 1]; }
+bool Cell::isPotential(int value) const { return inRange(value) && (mask_ & bitOf(value)); }
 
 void Cell::reset(int index) {
     eng::CellInfo::reset(index);
-    for (bool& p : potential) p = true;
-    potentialCount = 9;
-    modified = false;
+    mask_ = kAllValues;
+    modified_ = false;
 }
 
 void Cell::setValue(int value, int origin) {
-    if (!isPotential(value)) throw eng::ExCellConflict(0, index_, value);
+    if (!isPotential(value)) throw eng::ExCellConflict(CellConflict::valueConflicts, index_, value);
     value_ = value;
     origin_ = origin;
 }
 
 bool Cell::setSinglePotential(int value) {
-    if (!isPotential(value)) throw eng::ExCellConflict(1, index_, value);
-    const bool changed = potentialCount >= 2;
-    for (int v = 1; v <= 9; ++v) potential[v - 1] = (v == value);
-    potentialCount = 1;
-    modified = modified || changed;
+    if (!isPotential(value)) throw eng::ExCellConflict(CellConflict::potentialConflicts, index_, value);
+    const bool changed = mask_ != bitOf(value);
+    mask_ = bitOf(value);
+    modified_ = modified_ || changed;
     return changed;
 }
 
 bool Cell::removePotential(int value, bool mustExist) {
     if (!isPotential(value)) {
-        if (mustExist) throw eng::ExCellConflict(2, index_, value);
+        if (mustExist) throw eng::ExCellConflict(CellConflict::noSuchPotential, index_, value);
         return false;
     }
-    potential[value - 1] = false;
-    --potentialCount;
-    if (potentialCount < 1) throw eng::ExCellConflict(3, index_, 0);
-    modified = true;
+    return removeValues(bitOf(value));
+}
+
+bool Cell::removeValues(Mask values) {
+    const Mask lost = mask_ & values;
+    if (!lost) return false;
+    mask_ &= ~values;
+    modified_ = true;
+    if (!mask_) throw eng::ExCellConflict(CellConflict::noPotentialLeft, index_, 0);
     return true;
 }
 
+bool Cell::keepOnly(Mask values) { return removeValues(~values & kAllValues); }
+
 bool Cell::keepOnlyPotentials(std::list<int> values) {
-    bool keep[9] = {};
+    Mask keep = 0;
     for (int v : values)
-        if (inRange(v)) keep[v - 1] = true;
-    bool changed = false;
-    for (int i = 0; i < 9; ++i) {
-        if (potential[i] && !keep[i]) {
-            potential[i] = false;
-            --potentialCount;
-            changed = true;
-        }
-    }
-    modified = modified || changed;
-    if (potentialCount < 1) throw eng::ExCellConflict(3, index_, 0);
-    return changed;
+        if (inRange(v)) keep |= bitOf(v);
+    return keepOnly(keep);
 }
 
 void Cell::potentials(std::vector<int>& out) const {
     out.clear();
     for (int v = 1; v <= 9; ++v)
-        if (potential[v - 1]) out.push_back(v);
-}
-
-bool Cell::sharesExactlyOne(const Cell& other) const {
-    int common = 0;
-    for (int i = 0; i < 9; ++i)
-        if (potential[i] && other.potential[i]) ++common;
-    return common == 1;
-}
-
-int Cell::firstCommonPotential(const Cell& other) const {
-    for (int i = 0; i < 9; ++i)
-        if (potential[i] && other.potential[i]) return i + 1;
-    return 0;
+        if (mask_ & bitOf(v)) out.push_back(v);
 }
 
 bool Cell::addPotential(int value) {
-    if (!inRange(value) || potential[value - 1]) return false;
-    potential[value - 1] = true;
-    ++potentialCount;
-    modified = true;
+    if (!inRange(value) || (mask_ & bitOf(value))) return false;
+    mask_ |= bitOf(value);
+    modified_ = true;
     return true;
 }
 

@@ -42,25 +42,47 @@ protected:
 
 namespace eng_priv {
 
+// Candidate sets: bit v-1 stands for value v.
+using Mask = unsigned;
+constexpr Mask kAllValues = 0x1FF;
+constexpr Mask bitOf(int value) { return 1u << (value - 1); }
+// The number of values in a set (any 9-bit set: of values or of positions).
+struct CountTable {
+    unsigned char counts[512];
+    constexpr CountTable() : counts() {
+        for (int m = 1; m < 512; ++m) counts[m] = static_cast<unsigned char>(counts[m >> 1] + (m & 1));
+    }
+};
+inline constexpr CountTable kCounts{};
+inline int countOf(Mask m) { return kCounts.counts[m & 0x1FF]; }
+// The lowest value of a non-empty set.
+inline int lowestOf(Mask m) { return __builtin_ctz(m) + 1; }
+
+// A cell of a position. Its candidates are a private mask changed only through
+// the operations below, which raise eng::ExCellConflict on a contradiction and
+// set the `modified` mark whenever a candidate goes.
 class Cell : public eng::CellInfo, public Serializable {
 public:
-    bool potential[9];  // potential[v-1]: v is still possible
-    int potentialCount;
-    bool modified;
-
     Cell();
 
     bool isPotential(int value) const override;
     void reset(int index) override;
 
-    // Raise eng::ExCellConflict on contradictions (kinds 0-3).
+    Mask mask() const { return mask_; }
+    int count() const { return countOf(mask_); }
+    bool isModified() const { return modified_; }
+    // Only hand-built positions set the mark directly.
+    void setModified(bool modified) { modified_ = modified; }
+
     void setValue(int value, int origin);
     bool setSinglePotential(int value);
     bool removePotential(int value, bool mustExist);
+    // Removes the values of `values`; true when any went.
+    bool removeValues(Mask values);
+    // Keeps only the values of `values`; true when any other went.
+    bool keepOnly(Mask values);
     bool keepOnlyPotentials(std::list<int> values);
     void potentials(std::vector<int>& out) const;
-    bool sharesExactlyOne(const Cell& other) const;
-    int firstCommonPotential(const Cell& other) const;
 
     // Adds a potential value back (the player's pencil mark); no rules run.
     // Returns false when it was already there.
@@ -68,6 +90,10 @@ public:
 
     bool deserialize(std::istream& in) override;
     bool serialize(std::ostream& out) override;
+
+private:
+    Mask mask_ = kAllValues;
+    bool modified_ = false;
 };
 
 }  // namespace eng_priv

@@ -9,11 +9,12 @@ namespace {
 
 const char* cellConflictText(int kind) {
     switch (kind) {
-    case 0: return "Cannot set this value. It's in conflict";
-    case 1: return "Cannot set this potential value. It's in conflict";
-    case 2: return "Cannot remove an inexistent potential value.";
-    case 3: return "All potential values were removed from this cell. There is no solution.";
-    case 4: return "Too many guesses goes in conflicts. Aborting.";
+    case CellConflict::valueConflicts: return "Cannot set this value. It's in conflict";
+    case CellConflict::potentialConflicts: return "Cannot set this potential value. It's in conflict";
+    case CellConflict::noSuchPotential: return "Cannot remove an inexistent potential value.";
+    case CellConflict::noPotentialLeft:
+        return "All potential values were removed from this cell. There is no solution.";
+    case CellConflict::tooManyGuesses: return "Too many guesses goes in conflicts. Aborting.";
     default: return "Unknown conflict type. Please report this error.";
     }
 }
@@ -61,14 +62,14 @@ ExTupleConflict::ExTupleConflict(int kind, std::string tupleName, int tupleIndex
 const char* ExTupleConflict::describe() {
     std::ostringstream out;
     out << "Conflict: ";
-    if (kind != 0 && kind != 1) {
+    if (kind != TupleConflict::tooManyValues && kind != TupleConflict::tooManyCells) {
         out << "Unknown conflict type on tuple. Please report this error.";
     } else {
         out << "On " << tupleName << " " << tupleIndex + 1 << ": cannot distribute values: ";
         join(out, values, false);
         out << " to cells: ";
         join(out, cells, true);
-        out << (kind == 0 ? "  (too many values, to few cells)" : "  (too many cells, to few values)");
+        out << (kind == TupleConflict::tooManyValues ? "  (too many values, to few cells)" : "  (too many cells, to few values)");
     }
     message = out.str();
     return message.c_str();

@@ -8,6 +8,25 @@
 
 namespace eng {
 
+// The kinds of contradiction on a cell.
+struct CellConflict {
+    enum Kind : int {
+        valueConflicts = 0,      // the value is not among the cell's candidates
+        potentialConflicts = 1,  // the single candidate asked for is not among them
+        noSuchPotential = 2,     // removing a candidate the cell does not have
+        noPotentialLeft = 3,     // the cell lost its last candidate
+        tooManyGuesses = 4,      // the search gave up
+    };
+};
+
+// The kinds of contradiction on a row, column or square.
+struct TupleConflict {
+    enum Kind : int {
+        tooManyValues = 0,  // n cells are the only places for more than n values
+        tooManyCells = 1,   // more than three cells confined to three values
+    };
+};
+
 // A contradiction on one cell.
 class ExCellConflict : public std::exception {
 public:

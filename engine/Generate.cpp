@@ -17,7 +17,7 @@ constexpr int kTrialsPerSolution = 30;
 
 bool everyCellSettled(const BoardSnapshot& s) {
     for (const Cell& c : s.cells)
-        if (c.potentialCount > 1) return false;
+        if (c.count() > 1) return false;
     return true;
 }
 
@@ -26,11 +26,11 @@ bool everyCellSettled(const BoardSnapshot& s) {
 bool Board::generate(int newLevel) {
     if (newLevel == lvlUserEdit) {
         clear();
-        history.push_back(new BoardSnapshot());
+        history.push_back(std::make_unique<BoardSnapshot>());
         masterSolution.forbidden = true;
         attempt = 0;
         level = lvlUserEdit;
-        phase = 3;
+        phase = phasePlaying;
         reportCells();
         return true;
     }
@@ -39,19 +39,19 @@ bool Board::generate(int newLevel) {
     for (int cycle = 0; cycle < kCycles; ++cycle) {
         for (int attemptNo = 0; attemptNo < kAttemptsPerCycle; ++attemptNo) {
             clear();
-            history.push_back(new BoardSnapshot());
+            history.push_back(std::make_unique<BoardSnapshot>());
             attempt = attemptNo;
             level = newLevel;
-            phase = 1;
+            phase = phaseFilling;
             if (!fill()) continue;
             captureSolution();
             for (int trial = 0; trial < kTrialsPerSolution; ++trial) {
                 resetToFirst();
-                phase = 2;
+                phase = phaseRevealing;
                 revealUntilReady();
                 if (!isTooEasy()) {
                     finishGame();
-                    phase = 3;
+                    phase = phasePlaying;
                     reportCells();
                     return true;
                 }
@@ -78,30 +78,26 @@ void Board::revealUntilReady() {
 }
 
 bool Board::solves(int preset, const BoardSnapshot& s) {
-    BoardSnapshot* working = s.copy();
+    BoardSnapshot working(s);
     RuleSolver solver(preset);
-    const bool solved = runRulesFromValues(solver, *working) && everyCellSettled(*working);
-    delete working;
-    return solved;
+    return runRulesFromValues(solver, working) && everyCellSettled(working);
 }
 
 bool Board::isTooEasy() {
     switch (level) {
     case lvlCompleted: return false;
     case lvlVeryEasy: return history.back()->isFull();
-    default: return solves(level - 2, *history.back());
+    // Too easy when the next easier level's preset solves it.
+    default: return solves(revealPreset(level - 1), *history.back());
     }
 }
 
 void Board::finishGame() {
-    BoardSnapshot* puzzle = history.back()->copy();
+    auto puzzle = history.back()->copy();
     RuleSolver solver(pencilMarksRules);
-    if (!runRulesFromValues(solver, *puzzle)) {
-        delete puzzle;
-        return;
-    }
+    if (!runRulesFromValues(solver, *puzzle)) return;
     resetToFirst();
-    history.push_back(puzzle);
+    history.push_back(std::move(puzzle));
 }
 
 }  // namespace eng

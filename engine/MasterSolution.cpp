@@ -7,8 +7,6 @@ namespace eng_priv {
 const char* const kForbiddenSolutionError =
     "This is bug: Access to master solution is forbidden. Most likely this is a lvlUserEdit game.";
 
-MasterSolution::~MasterSolution() { delete solution; }
-
 int MasterSolution::value(int index) const {
     if (forbidden) throw std::runtime_error(kForbiddenSolutionError);
     if (!solution || index < 0 || index > 80) return 0;
@@ -19,8 +17,7 @@ void MasterSolution::reset() {
     triedValueCount = 0;
     guessCount = 0;
     forbidden = false;
-    delete solution;
-    solution = nullptr;
+    solution.reset();
 }
 
 }  // namespace eng_priv

@@ -10,12 +10,11 @@ public:
     int triedValueCount = 0;
     int guessCount = 0;
     bool forbidden = false;
-    BoardSnapshot* solution = nullptr;
+    std::unique_ptr<BoardSnapshot> solution;
 
     MasterSolution() = default;
     MasterSolution(const MasterSolution&) = delete;
     MasterSolution& operator=(const MasterSolution&) = delete;
-    ~MasterSolution() override;
 
     // The solution's value of a cell. Throws std::runtime_error when access is
     // forbidden (a User Edit game).

@@ -8,85 +8,42 @@ namespace eng_priv {
 
 namespace {
 
-bool sameFlags(const Cell& a, const Cell& b) {
-    for (int i = 0; i < 9; ++i)
-        if (a.potential[i] != b.potential[i]) return false;
-    return true;
-}
+const char* const kTupleNames[3] = {"row", "column", "square"};
 
-bool emptyPair(const Cell& c) { return c.value() == 0 && c.potentialCount == 2; }
-
-bool within(const Cell& cell, const bool values[9]) {
-    for (int i = 0; i < 9; ++i)
-        if (cell.potential[i] && !values[i]) return false;
-    return true;
-}
-
-int cellsWithin(const Tuple& tuple, const bool values[9]) {
-    int n = 0;
-    for (const Cell* cell : tuple.cells) n += within(*cell, values);
-    return n;
+// The line two or three cells share, or -1: their row, else their column.
+int sharedLine(const Cell& a, const Cell& b) {
+    if (a.row() == b.row()) return a.row();
+    if (a.column() == b.column()) return kColumnsFirst + a.column();
+    return -1;
 }
 
 }  // namespace
 
-void Tuple::splitBySubset(const bool values[9], std::list<Cell*>& inside,
-                          std::list<Cell*>& outside) const {
-    inside.clear();
-    outside.clear();
-    for (Cell* cell : cells) (within(*cell, values) ? inside : outside).push_back(cell);
-}
-
-bool removeValues(const bool values[9], const std::list<Cell*>& cells) {
-    bool changed = false;
-    for (Cell* cell : cells) {
-        bool lost = false;
-        for (int i = 0; i < 9; ++i) {
-            if (values[i] && cell->potential[i]) {
-                cell->potential[i] = false;
-                --cell->potentialCount;
-                lost = true;
-            }
-        }
-        if (cell->potentialCount < 1) throw eng::ExCellConflict(3, cell->index(), 0);
-        if (lost) {
-            cell->modified = true;
-            changed = true;
-        }
-    }
-    return changed;
-}
-
 // Two empty cells with the same two candidates clear them from the rest of the
-// row or column they share, and from their square.
+// row or column they share, and from their square. The pair cells are found
+// in index order from a set that follows every removal.
 bool RuleSolver::applyDoubles() {
+    const unsigned start = clock;
     bool changed = false;
-    Cell* cells = snapshot->cells;
-    for (int a = 0; a < 80; ++a) {
-        if (!emptyPair(cells[a])) continue;
-        for (int b = a + 1; b < 81; ++b) {
-            if (!emptyPair(cells[b]) || !sameFlags(cells[a], cells[b])) continue;
-            Cell& ca = cells[a];
-            Cell& cb = cells[b];
-            int p = 0, q = 0;
-            for (int v = 1; v <= 9; ++v) {
-                if (!ca.potential[v - 1]) continue;
-                if (p == 0) p = v; else q = v;
+    for (int a = nextPair(0); a < 80; a = nextPair(a + 1)) {
+        const Cell& ca = cells[a];
+        for (int b = nextPair(a + 1); b < 81; b = nextPair(b + 1)) {
+            const Cell& cb = cells[b];
+            if (ca.mask() != cb.mask()) continue;
+            const Mask p = ca.mask() & (~ca.mask() + 1), q = ca.mask() & ~p;
+            const int line = sharedLine(ca, cb);
+            if (line >= 0 && !isClean(checkPairs, line)) {
+                changed = removeFromOthers(line, p, a, b) || changed;
+                changed = removeFromOthers(line, q, a, b) || changed;
             }
-            Tuple* line = nullptr;
-            if (ca.row() == cb.row()) line = &rows[ca.row()];
-            else if (ca.column() == cb.column()) line = &columns[ca.column()];
-            if (line) {
-                changed = line->removeFromOthers(p, &ca, &cb) || changed;
-                changed = line->removeFromOthers(q, &ca, &cb) || changed;
-            }
-            if (ca.square() == cb.square()) {
-                Tuple& sq = squares[ca.square()];
-                changed = sq.removeFromOthers(p, &ca, &cb) || changed;
-                changed = sq.removeFromOthers(q, &ca, &cb) || changed;
+            const int square = kSquaresFirst + ca.square();
+            if (ca.square() == cb.square() && !isClean(checkPairs, square)) {
+                changed = removeFromOthers(square, p, a, b) || changed;
+                changed = removeFromOthers(square, q, a, b) || changed;
             }
         }
     }
+    markCleanIfUnchanged(checkPairs, start);
     return changed;
 }
 
@@ -95,30 +52,33 @@ bool RuleSolver::applyDoubles() {
 // more than three are a contradiction.
 bool RuleSolver::applyTriples() {
     bool changed = false;
-    std::list<Cell*> inside, outside;
     for (int k = 0; k < 9; ++k) {
-        Tuple* tuples[3] = {&rows[k], &columns[k], &squares[k]};
-        for (Tuple* tuple : tuples) {
-            if (!tuple->anyModified()) continue;
-            for (Cell* c : tuple->cells) {
-                if (c->potentialCount != 3) continue;
-                if (cellsWithin(*tuple, c->potential) < 3) continue;  // no group: spare the split
-                tuple->splitBySubset(c->potential, inside, outside);
-                if (inside.size() < 3) continue;
-                if (inside.size() == 3) {
-                    bool values[9];
-                    for (int i = 0; i < 9; ++i) values[i] = c->potential[i];
-                    changed = removeValues(values, outside) || changed;
+        for (int t : {k, kColumnsFirst + k, kSquaresFirst + k}) {
+            if (!anyModified(t) || isClean(checkTriples, t)) continue;
+            const unsigned before = clock;
+            const int* tc = kTuples.cells[t];
+            for (int pos = 0; pos < 9; ++pos) {
+                const Mask m = cells[tc[pos]].mask();
+                if (countOf(m) != 3) continue;
+                unsigned inside = 0;
+                for (int j = 0; j < 9; ++j)
+                    if (!(cells[tc[j]].mask() & ~m)) inside |= 1u << j;
+                const int n = countOf(inside);
+                if (n < 3) continue;
+                if (n == 3) {
+                    for (int j = 0; j < 9; ++j)
+                        if (!(inside & (1u << j))) changed = remove(tc[j], m) || changed;
                     continue;
                 }
                 std::list<int> valueList, positions;
                 for (int v = 1; v <= 9; ++v)
-                    if (c->potential[v - 1]) valueList.push_back(v);
-                for (size_t pos = 0; pos < tuple->cells.size(); ++pos)
-                    for (Cell* in : inside)
-                        if (in == tuple->cells[pos]) positions.push_back(static_cast<int>(pos));
-                throw eng::ExTupleConflict(1, tuple->name(), tuple->index, valueList, positions);
+                    if (m & bitOf(v)) valueList.push_back(v);
+                for (int j = 0; j < 9; ++j)
+                    if (inside & (1u << j)) positions.push_back(j);
+                throw eng::ExTupleConflict(eng::TupleConflict::tooManyCells, kTupleNames[t / 9], t % 9,
+                                           valueList, positions);
             }
+            if (clock == before) cleanAt[checkTriples][t] = clock;
         }
     }
     return changed;
@@ -126,35 +86,32 @@ bool RuleSolver::applyTriples() {
 
 // Three empty cells {x,y}, {y,z}, {x,z} linked pairwise by one value.
 bool RuleSolver::applyTransitiveDoubles() {
+    const unsigned start = clock;
     bool changed = false;
-    Cell* cells = snapshot->cells;
-    for (int a = 0; a < 81; ++a) {
-        if (!emptyPair(cells[a])) continue;
-        for (int b = a + 1; b < 81; ++b) {
-            if (!emptyPair(cells[b]) || !cells[a].sharesExactlyOne(cells[b])) continue;
-            for (int c = b + 1; c < 81; ++c) {
-                Cell& ca = cells[a];
-                Cell& cb = cells[b];
-                Cell& cc = cells[c];
-                if (!emptyPair(cc)) continue;
-                if (!cb.sharesExactlyOne(cc) || sameFlags(cb, cc)) continue;
-                if (!cc.sharesExactlyOne(ca)) continue;
-                const int x = ca.firstCommonPotential(cc);
-                const int y = ca.firstCommonPotential(cb);
-                const int z = cb.firstCommonPotential(cc);
+    for (int a = nextPair(0); a < 81; a = nextPair(a + 1)) {
+        const Cell& ca = cells[a];
+        for (int b = nextPair(a + 1); b < 81; b = nextPair(b + 1)) {
+            const Cell& cb = cells[b];
+            const Mask y = ca.mask() & cb.mask();
+            if (countOf(y) != 1) continue;
+            for (int c = nextPair(b + 1); c < 81; c = nextPair(c + 1)) {
+                const Cell& cc = cells[c];
+                const Mask z = cb.mask() & cc.mask(), x = cc.mask() & ca.mask();
+                if (countOf(z) != 1 || cb.mask() == cc.mask() || countOf(x) != 1) continue;
                 if (x == y || y == z || x == z) continue;
-                const int xyz[3] = {x, y, z};
-                Tuple* line = nullptr;
-                if (ca.row() == cb.row() && cb.row() == cc.row()) line = &rows[ca.row()];
-                else if (ca.column() == cb.column() && cb.column() == cc.column()) line = &columns[ca.column()];
-                if (line)
-                    for (int v : xyz) changed = line->removeFromOthers(v, &ca, &cb, &cc) || changed;
-                if (ca.square() == cb.square() && cb.square() == cc.square())
-                    for (int v : xyz)
-                        changed = squares[ca.square()].removeFromOthers(v, &ca, &cb, &cc) || changed;
+                const Mask xyz[3] = {x, y, z};
+                int line = sharedLine(ca, cb);
+                if (line >= 0 && line != sharedLine(cb, cc)) line = -1;
+                if (line >= 0 && !isClean(checkTransitive, line))
+                    for (Mask v : xyz) changed = removeFromOthers(line, v, a, b, c) || changed;
+                const int square = kSquaresFirst + ca.square();
+                if (ca.square() == cb.square() && cb.square() == cc.square() &&
+                    !isClean(checkTransitive, square))
+                    for (Mask v : xyz) changed = removeFromOthers(square, v, a, b, c) || changed;
             }
         }
     }
+    markCleanIfUnchanged(checkTransitive, start);
     return changed;
 }
 

@@ -29,14 +29,13 @@ void shuffle(std::vector<T>& items) {
 
 void Board::captureSolution() {
     if (masterSolution.forbidden) throw std::runtime_error(eng_priv::kForbiddenSolutionError);
-    delete masterSolution.solution;
     masterSolution.solution = history.back()->copy();
 }
 
 bool Board::makeMove() {
     if (history.empty()) return false;
     if (!undone.empty()) {
-        history.push_back(undone.back());
+        history.push_back(std::move(undone.back()));
         undone.pop_back();
         reportCells();
         return true;
@@ -65,21 +64,21 @@ Cell* Board::chooseCell(const std::vector<Cell*>& cells, int phaseNow) {
     std::vector<Cell*> order(cells);
     shuffle(order);
 
-    if (phaseNow == 1) {
+    if (phaseNow == phaseFilling) {
         // Fewest choices first.
         for (int count = 1; count <= 3; ++count)
             for (Cell* c : order)
-                if (c->potentialCount == count) return c;
+                if (c->count() == count) return c;
         return order.front();
     }
 
     // Most choices: the first with nine, else the last with eight ... five.
     for (Cell* c : order)
-        if (c->potentialCount == 9) return c;
+        if (c->count() == 9) return c;
     for (int count = 8; count >= 5; --count) {
         Cell* last = nullptr;
         for (Cell* c : order)
-            if (c->potentialCount == count) last = c;
+            if (c->count() == count) last = c;
         if (last) return last;
     }
     // Otherwise score each cell by the candidates of the listed cells that
@@ -87,12 +86,12 @@ Cell* Board::chooseCell(const std::vector<Cell*>& cells, int phaseNow) {
     Cell* best = nullptr;
     int bestScore = -1;
     for (Cell* c : order) {
-        if (c->potentialCount < 2) continue;
+        if (c->count() < 2) continue;
         int score = 0;
         for (const Cell* other : order) {
-            if (other->row() == c->row()) score += other->potentialCount;
-            if (other->column() == c->column()) score += other->potentialCount;
-            if (other->square() == c->square()) score += other->potentialCount;
+            if (other->row() == c->row()) score += other->count();
+            if (other->column() == c->column()) score += other->count();
+            if (other->square() == c->square()) score += other->count();
         }
         if (score > bestScore) {
             bestScore = score;
@@ -111,7 +110,7 @@ bool Board::search(PlaceKind kind) {
             if (!retractGuess()) return false;
         }
     } catch (ExCellConflict& conflict) {
-        if (conflict.kind != 4) throw;
+        if (conflict.kind != CellConflict::tooManyGuesses) throw;
         conflict.describe();
     }
     return false;
@@ -122,7 +121,7 @@ bool Board::guessOne(PlaceKind kind) {
     if (!history.back()->emptyCells(cells)) return false;
     Cell* chosen = chooseCell(cells, phase);
     const bool placed = tryValues(chosen, kind);
-    if (++masterSolution.guessCount > kMaxGuesses) throw ExCellConflict(4, -1, 0);
+    if (++masterSolution.guessCount > kMaxGuesses) throw ExCellConflict(CellConflict::tooManyGuesses, -1, 0);
     return placed;
 }
 
@@ -148,7 +147,6 @@ bool Board::retractGuess() {
         if (history.size() < 2) return false;
         const eng_priv::Guess guess = history.back()->guess;
         if (guess.index < 0 || guess.index > 80) return false;
-        delete history.back();
         history.pop_back();
         Cell& cell = history.back()->cells[guess.index];
         const Cell before = cell;
@@ -158,7 +156,7 @@ bool Board::retractGuess() {
         } catch (ExCellConflict& conflict) {
             conflict.describe();
             cell = before;  // this position is taken back next, or kept intact
-            if (conflict.kind != 3) return false;
+            if (conflict.kind != CellConflict::noPotentialLeft) return false;
         }
     }
 }

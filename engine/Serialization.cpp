@@ -107,8 +107,8 @@ bool Cell::serialize(std::ostream& out) {
     writeValue(out, StreamValue(index_));
     writeValue(out, StreamValue(value_));
     writeValue(out, StreamValue(origin_));
-    for (bool flag : potential) writeValue(out, StreamValue(flag));
-    writeValue(out, StreamValue(modified));
+    for (int v = 1; v <= 9; ++v) writeValue(out, StreamValue((mask_ & bitOf(v)) != 0));
+    writeValue(out, StreamValue(modified_));
     writeFooter(out, "Cell");
     return true;
 }
@@ -124,14 +124,12 @@ bool Cell::deserialize(std::istream& in) {
     setIndex(index);
     value_ = value;
     origin_ = origin;
-    potentialCount = 0;
-    for (bool& flag : potential) {
-        flag = readBool(in);
-        potentialCount += flag;
-    }
-    modified = readBool(in);
+    mask_ = 0;
+    for (int v = 1; v <= 9; ++v)
+        if (readBool(in)) mask_ |= bitOf(v);
+    modified_ = readBool(in);
     if (!in || index < -1 || index > 80 || value < 0 || value > 9 || origin < 0 || origin > 3 ||
-        potentialCount < 1 || (value != 0 && !potential[value - 1]))
+        mask_ == 0 || (value != 0 && !(mask_ & bitOf(value))))
         return false;
     return readFooter(in, "Cell");
 }
@@ -188,11 +186,10 @@ bool MasterSolution::deserialize(std::istream& in) {
     guessCount = readInt(in);
     forbidden = readBool(in);
     const bool hasSolution = readBool(in);
-    delete solution;
-    solution = nullptr;
+    solution.reset();
     if (!in || triedValueCount < 0 || guessCount < 0) return false;
     if (hasSolution) {
-        solution = new BoardSnapshot();
+        solution = std::make_unique<BoardSnapshot>();
         if (!solution->deserialize(in) || !solution->isFull()) return false;
     }
     return readFooter(in, "MasterSolution");
@@ -213,9 +210,9 @@ constexpr int kMaxSnapshots = 100000;
 
 using SnapshotList = std::vector<std::unique_ptr<BoardSnapshot>>;
 
-void writeSnapshots(std::ostream& out, const std::deque<BoardSnapshot*>& list) {
+void writeSnapshots(std::ostream& out, const std::deque<std::unique_ptr<BoardSnapshot>>& list) {
     eng_priv::writeValue(out, eng_priv::StreamValue(static_cast<int>(list.size())));
-    for (BoardSnapshot* s : list) s->serialize(out);
+    for (const auto& s : list) s->serialize(out);
 }
 
 // Reads one snapshot at a time, so a huge count in a short file fails at the
@@ -279,13 +276,13 @@ bool Board::deserialize(std::istream& in) {
     const int loadedAttempt = ok ? eng_priv::readInt(in) : 0;
     ok = ok && in && readFooter(in, "Board");
     ok = ok && loadedLevel >= lvlCompleted && loadedLevel <= lvlUserEdit;
-    ok = ok && loadedPhase >= 0 && loadedPhase <= 3 && loadedAttempt >= 0 && loadedAttempt <= 14;
+    ok = ok && loadedPhase >= phaseNone && loadedPhase <= phasePlaying && loadedAttempt >= 0 && loadedAttempt <= 14;
     // A User Edit game has no solution and forbids reading one; a generated
     // game being played has its solution.
     ok = ok && loadedSolution.forbidden == (loadedLevel == lvlUserEdit);
     ok = ok && !(loadedSolution.forbidden && loadedSolution.solution);
-    ok = ok && !(loadedPhase == 3 && loadedLevel != lvlUserEdit && !loadedSolution.solution);
-    ok = ok && !(loadedPhase == 3 && loadedHistory.empty());
+    ok = ok && !(loadedPhase == phasePlaying && loadedLevel != lvlUserEdit && !loadedSolution.solution);
+    ok = ok && !(loadedPhase == phasePlaying && loadedHistory.empty());
     ok = ok && !(loadedHistory.empty() && !loadedUndone.empty());
     if (!ok) {
         if (observer) observer->loadFailed(kFormatVersion, -1);
@@ -296,10 +293,9 @@ bool Board::deserialize(std::istream& in) {
     masterSolution.triedValueCount = loadedSolution.triedValueCount;
     masterSolution.guessCount = loadedSolution.guessCount;
     masterSolution.forbidden = loadedSolution.forbidden;
-    masterSolution.solution = loadedSolution.solution;
-    loadedSolution.solution = nullptr;
-    for (auto& s : loadedHistory) history.push_back(s.release());
-    for (auto& s : loadedUndone) undone.push_back(s.release());
+    masterSolution.solution = std::move(loadedSolution.solution);
+    for (auto& s : loadedHistory) history.push_back(std::move(s));
+    for (auto& s : loadedUndone) undone.push_back(std::move(s));
     level = loadedLevel;
     phase = loadedPhase;
     attempt = loadedAttempt;

@@ -8,7 +8,7 @@ packages=(
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev
   poppler-utils
-  xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils
+  xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils libxcb1-dev
   stress-ng desktop-file-utils appstream ccache
   dpkg-dev file
 )

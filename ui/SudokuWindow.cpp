@@ -4,9 +4,14 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLayout>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <QSaveFile>
 #include <QSoundEffect>
 #include <QThread>
+#include <QTimer>
 #include <sstream>
 
 #include "AboutDialog.h"
@@ -51,11 +56,22 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     connect(&pencilMarksOptions, &PencilMarksOptions::applyRule, this, &SudokuWindow::applyPencilmarksRule);
     connect(&pencilMarksOptions, &PencilMarksOptions::applyRules, this, &SudokuWindow::applyPencilmarksRules);
 
+    // The window is as large as its board and cannot be resized or maximised.
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+    setFixedSize(609, 709);
+
+    deferredTimer.setSingleShot(true);
+    deferredTimer.setInterval(0);
+    connect(&deferredTimer, &QTimer::timeout, this, &SudokuWindow::runDeferred);
+    qApp->installEventFilter(this);
+
     newGameStep(eng::lvlMedium, true);
     setLevelLabel(eng::lvlMedium);
 }
 
 SudokuWindow::~SudokuWindow() {
+    qApp->removeEventFilter(this);
     hideCaretIfAny();
     delete board;
     board = nullptr;
@@ -76,11 +92,79 @@ void SudokuWindow::closeEvent(QCloseEvent* event) {
 // ---------------------------------------------------------------------------
 // Observer
 
+// A tile whose value changes loses its highlight in the update; the tiles that
+// now hold the highlighted value take it here, so the pink cells are always
+// exactly those of highlightedValue.
 void SudokuWindow::updateTiles(const std::vector<eng::CellInfo*>& cells, bool mark) {
     for (const eng::CellInfo* cell : cells) {
         const int i = cell->index();
         if (i >= 0 && i < 81) tiles[i]->updateFromCell(*cell, mark);
     }
+    reapplyHighlight();
+}
+
+void SudokuWindow::reapplyHighlight() {
+    if (highlightedValue == 0) return;
+    for (Tile* tile : tiles)
+        if (!tile->isHighlighted() && tile->value() == highlightedValue) tile->highlightValue(highlightedValue, 0);
+}
+
+// Shows a tile as the engine holds it, wiping whatever the tile showed of
+// input that was not carried out.
+void SudokuWindow::redrawTile(int index) {
+    const eng::CellInfo* cell = board ? board->cell(index) : nullptr;
+    if (cell) tiles[index]->updateFromCell(*cell, false);
+    reapplyHighlight();
+}
+
+// ---------------------------------------------------------------------------
+// Input that arrives while the window is busy
+
+// Digits and arrow keys released while a command, an animation or the
+// celebration runs are held back and replayed afterwards, in order, on the
+// tile that has the caret then; without this a fast typist would lose them.
+bool SudokuWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyRelease || event == replayedKey || !mustDefer()) return false;
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || widget->window() != this) return false;
+    auto* key = static_cast<QKeyEvent*>(event);
+    bool digit = false;
+    const int number = key->text().toInt(&digit, 10);
+    const bool arrow = key->key() == Qt::Key_Left || key->key() == Qt::Key_Right || key->key() == Qt::Key_Up ||
+                       key->key() == Qt::Key_Down;
+    if (!arrow && !(digit && number >= 1 && number <= 9)) return false;
+    defer([this, k = key->key(), m = key->modifiers(), t = key->text()] { replayKey(k, m, t); });
+    return true;
+}
+
+void SudokuWindow::replayKey(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    if (caretIndex < 0) return;
+    QKeyEvent event(QEvent::KeyRelease, key, modifiers, text);
+    replayedKey = &event;
+    QCoreApplication::sendEvent(tiles[caretIndex], &event);
+    replayedKey = nullptr;
+}
+
+void SudokuWindow::defer(std::function<void()> command) {
+    deferred.push_back(std::move(command));
+    deferredTimer.start();
+}
+
+// Runs the held-back input once nothing else runs; until then it waits for
+// the next round of event processing.
+void SudokuWindow::runDeferred() {
+    if (busy > 0 || replaying) {
+        if (!deferred.empty() && !closing) deferredTimer.start(10);
+        return;
+    }
+    replaying = true;
+    while (!deferred.empty() && busy == 0 && !closing) {
+        const std::function<void()> command = std::move(deferred.front());
+        deferred.pop_front();
+        command();
+    }
+    replaying = false;
+    if (!deferred.empty() && !closing) deferredTimer.start(0);
 }
 
 void SudokuWindow::cellsChanged(const std::vector<eng::CellInfo*>& cells) {
@@ -90,10 +174,15 @@ void SudokuWindow::cellsChanged(const std::vector<eng::CellInfo*>& cells) {
 }
 
 // Lets the board be painted before the command goes on. While pages are being
-// drawn, the player's input waits until the pages are done: a click in the
-// print preview would otherwise ask for the pages again in the middle of them.
+// drawn no event at all is processed: a timer or a click that reached the print
+// preview in the middle of its pages would ask for them again inside the paint.
+// The board's layouts are brought up to date directly, so it renders as shown.
 void SudokuWindow::repaintNow() {
-    QCoreApplication::processEvents(painting ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
+    if (painting) {
+        for (QLayout* layout : ui->boardWidget->findChildren<QLayout*>()) layout->activate();
+        return;
+    }
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
 }
 
 void SudokuWindow::noMoreMoves(const std::vector<eng::CellInfo*>& cells) {
@@ -146,6 +235,10 @@ void SudokuWindow::playRefusalSound() {
 
 void SudokuWindow::showMessage(int icon, const QString& text) {
     if (closing) return;
+    if (painting) {  // a message box would process events: it waits for the pages
+        QTimer::singleShot(0, this, [this, icon, text] { showMessage(icon, text); });
+        return;
+    }
     BusyScope scope(busy);
     QMessageBox box(static_cast<QMessageBox::Icon>(icon), tr(kTitle), text, QMessageBox::Ok, this);
     box.exec();
@@ -254,7 +347,8 @@ void SudokuWindow::tileRightClicked(int index) {
 void SudokuWindow::tileLeftDoubleClicked(int) {}
 
 void SudokuWindow::enterValue(int index, int value) {
-    if (!board || busy || index < 0 || index > 80) return;
+    if (!board || index < 0 || index > 80) return;
+    if (busy) return redrawTile(index);
     {
         BusyScope scope(busy);
         markChanges = true;
@@ -270,12 +364,11 @@ void SudokuWindow::tileValueEdited(int liniarAddress, int value) { enterValue(li
 void SudokuWindow::tileSinglePotentialDoubleClicked(int index, int value) { enterValue(index, value); }
 
 void SudokuWindow::tilePotentialsEdited(int liniarAddress, int valueToToggle) {
-    if (!board || busy || liniarAddress < 0 || liniarAddress > 80) return;
-    {
-        BusyScope scope(busy);
-        board->togglePotential(liniarAddress, valueToToggle);
-    }
-    if (highlightedValue != 0) setHighlight(highlightedValue);
+    if (!board || liniarAddress < 0 || liniarAddress > 80) return;
+    if (busy) return redrawTile(liniarAddress);
+    // The redrawn tiles take the highlight again in updateTiles.
+    BusyScope scope(busy);
+    board->togglePotential(liniarAddress, valueToToggle);
 }
 
 void SudokuWindow::tileMoveCaret(int index, Tile::CaretDirection direction) {
@@ -311,19 +404,25 @@ void SudokuWindow::tileMoveCaret(int index, Tile::CaretDirection direction) {
     }
 }
 
+// Rules applied from the dialog while the window is busy are applied as soon
+// as it is idle, so what the dialog shows as applied is applied.
 void SudokuWindow::applyPencilmarksRule(eng::Rules rule) {
-    if (!board || busy) return;
+    if (!board) return;
+    if (mustDefer()) return defer([this, rule] { applyPencilmarksRule(rule); });
     BusyScope scope(busy);
     markChanges = true;
     board->applyPencilMarksRule(rule);
     markChanges = false;
 }
 
-void SudokuWindow::applyPencilmarksRules() {
-    if (!board || busy) return;
+void SudokuWindow::applyPencilmarksRules() { setRules(pencilMarksOptions.selectedRules()); }
+
+void SudokuWindow::setRules(const std::list<eng::Rules>& rules) {
+    if (!board) return;
+    if (mustDefer()) return defer([this, rules] { setRules(rules); });
     BusyScope scope(busy);
     markChanges = true;
-    board->setPencilMarksRules(pencilMarksOptions.selectedRules());
+    board->setPencilMarksRules(rules);
     markChanges = false;
 }
 
@@ -447,22 +546,26 @@ void SudokuWindow::showWholeBoard() {
             tiles[i]->updateFromCell(empty, false);
         }
     }
+    reapplyHighlight();
 }
 
+// The game is written to a temporary file beside the chosen one, which takes
+// the chosen name only once every byte is out: a save that fails (a full disk)
+// leaves the previous file as it was. Devices and pipes are not save targets.
 void SudokuWindow::saveGame() {
     if (!board || busy) return;
     const QString name = askFileName(FileRequest::Save);
     if (name.isEmpty()) return;
-    QFile file(name);
-    if (file.open(QIODevice::WriteOnly)) {
-        std::ostringstream out(std::ios::binary);
-        if (board->serialize(out)) {
-            // A full disk shows up only when the data is written out.
-            const std::string bytes = out.str();
-            const bool written = file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-                                 static_cast<qint64>(bytes.size());
-            if (written && file.flush()) return;
-        }
+    const QFileInfo target(name);
+    QSaveFile file(name);
+    std::ostringstream out(std::ios::binary);
+    if ((!target.exists() || target.isFile()) && file.open(QIODevice::WriteOnly) && board->serialize(out)) {
+        const std::string bytes = out.str();
+        // The flush is checked on its own: commit() does not see a write error
+        // that shows up only while the buffered bytes are flushed.
+        if (file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) &&
+            file.flush() && file.commit())
+            return;
     }
     showMessage(QMessageBox::Information, tr("Failed to save game"));
 }

@@ -3,6 +3,8 @@
 // commands and tile signals into engine calls. It is the board's observer.
 
 #include <QMainWindow>
+#include <QTimer>
+#include <deque>
 #include <functional>
 
 #include "Board.h"
@@ -86,6 +88,7 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Ui::SudokuWindowClass* ui;
@@ -107,6 +110,12 @@ private:
     // meanwhile is ignored.
     bool painting = false;
     QSoundEffect* sound = nullptr;
+    // Keystrokes and rule applications that arrived while the window was busy,
+    // carried out in order as soon as it is idle again.
+    std::deque<std::function<void()>> deferred;
+    QTimer deferredTimer;
+    bool replaying = false;
+    const QEvent* replayedKey = nullptr;
     FileNameProvider fileNameProvider;
 
     class BusyScope {
@@ -137,6 +146,13 @@ private:
     void showMessage(int icon, const QString& text);
     QString askFileName(FileRequest request);
     void setLevelLabel(int level);
+    void defer(std::function<void()> command);
+    bool mustDefer() const { return busy > 0 || (!deferred.empty() && !replaying); }
+    void runDeferred();
+    void replayKey(int key, Qt::KeyboardModifiers modifiers, const QString& text);
+    void reapplyHighlight();
+    void redrawTile(int index);
+    void setRules(const std::list<eng::Rules>& rules);
 
     void printOnePerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter, QPrinter* printer);
     void printTwoPerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter);

@@ -58,36 +58,40 @@ void SudokuWindow::preparePrinter(QPrinter& printer) {
     printer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
 }
 
+// Draws every page without processing a single event: the games generated for
+// the pages update the tiles, which are rendered at once (see repaintNow), and
+// messages wait until the pages are done. The print preview calls this from
+// its own request for pages, which must not be entered again while it runs.
 void SudokuWindow::doPainting(QPrinter* printer) {
     if (!printer || painting) return;
-    BusyScope scope(busy);
-    painting = true;
-    struct PaintingDone {
-        bool& flag;
-        ~PaintingDone() { flag = false; }
-    } done{painting};
-    const QRectF pageMm = printer->pageRect(QPrinter::Millimeter);
-    const QRectF pageDevice = printer->pageRect(QPrinter::DevicePixel);
-    QPainter painter;
-    if (!painter.begin(printer)) {
-        showMessage(QMessageBox::Warning, tr("Failed to print."));
-        return;
-    }
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform |
-                           QPainter::HighQualityAntialiasing);
-    QT_WARNING_POP
-    const int what = printingInfo.whatToPrint();
-    for (int pass = 0; pass < printingInfo.repeatCount(); ++pass) {
-        if (pass > 0) printer->newPage();
-        switch (what) {
-        case 2: printTwoPerPage(pageMm, pageDevice, painter); break;
-        case 3: printFourPerPage(pageMm, pageDevice, painter); break;
-        default: printOnePerPage(pageMm, pageDevice, painter, printer); break;
+    auto drawPages = [&] {
+        BusyScope scope(busy);
+        painting = true;
+        struct PaintingDone {
+            bool& flag;
+            ~PaintingDone() { flag = false; }
+        } done{painting};
+        const QRectF pageMm = printer->pageRect(QPrinter::Millimeter);
+        const QRectF pageDevice = printer->pageRect(QPrinter::DevicePixel);
+        QPainter painter;
+        if (!painter.begin(printer)) return false;
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                               QPainter::SmoothPixmapTransform | QPainter::HighQualityAntialiasing);
+        QT_WARNING_POP
+        const int what = printingInfo.whatToPrint();
+        for (int pass = 0; pass < printingInfo.repeatCount(); ++pass) {
+            if (pass > 0) printer->newPage();
+            switch (what) {
+            case 2: printTwoPerPage(pageMm, pageDevice, painter); break;
+            case 3: printFourPerPage(pageMm, pageDevice, painter); break;
+            default: printOnePerPage(pageMm, pageDevice, painter, printer); break;
+            }
         }
-    }
-    if (!painter.end()) showMessage(QMessageBox::Warning, tr("Failed to print."));
+        return painter.end();
+    };
+    if (!drawPages()) showMessage(QMessageBox::Warning, tr("Failed to print."));
 }
 
 // A game for the page, started like the level commands but without asking.

@@ -1,6 +1,7 @@
 #include "Tile.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -50,17 +51,28 @@ QPalette candidatePalette() {
     return palette;
 }
 
+// Every assignment below re-polishes the widget and its children, so the
+// display is only touched where it differs from what the widget already has.
+void setSheet(QWidget* widget, const QString& sheet) {
+    if (widget->styleSheet() != sheet) widget->setStyleSheet(sheet);
+}
+
+void setShown(QWidget* widget, bool shown) {
+    if (widget->isHidden() == shown) widget->setVisible(shown);
+}
+
+bool isEnabledHere(const QWidget* widget) { return !widget->testAttribute(Qt::WA_Disabled); }
+
 }  // namespace
 
 Tile::Tile(QWidget* parent) : QWidget(parent), ui(new Ui::Tile) {
     ui->setupUi(this);
     QLabel* labels[9] = {ui->lbl1, ui->lbl2, ui->lbl3, ui->lbl4, ui->lbl5,
                          ui->lbl6, ui->lbl7, ui->lbl8, ui->lbl9};
-    const QPalette palette = candidatePalette();
-    for (int i = 0; i < 9; ++i) {
-        potentials[i] = labels[i];
-        potentials[i]->setPalette(palette);
-    }
+    // The candidates take their palette from the grid that holds them: one
+    // palette to resolve instead of nine whenever the tile is restyled.
+    ui->layoutWidget->setPalette(candidatePalette());
+    for (int i = 0; i < 9; ++i) potentials[i] = labels[i];
     valueLabel = ui->lblValue;
     index_ = -1;
     highlighted = false;
@@ -77,36 +89,52 @@ int Tile::index() const { return index_; }
 void Tile::setIndex(int index) { index_ = index; }
 
 void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
-    if (cell.origin() == eng::originGiven)
-        setStyleSheet(styleTileGiven);
-    else if (caretMode == NoCaret)
-        setStyleSheet(styleTileNormal);
+    const QString* base = cell.origin() == eng::originGiven ? &styleTileGiven
+                          : caretMode == NoCaret                 ? &styleTileNormal
+                                                                 : nullptr;
+    if (!highlighted) {
+        // Before the tile is first polished, its children are styled already
+        // and a new sheet would not reach them: the given grey is applied on a
+        // polished tile. The normal sheet looks like the form's white, and
+        // reaches the screen with the next restyle.
+        if (base == &styleTileGiven) ensurePolished();
+        if (base) setSheet(this, *base);
+    } else if (cell.value() == value()) {
+        // Still the highlighted value: stays pink, and ends on its new base.
+        if (base) savedStyleSheet = *base;
+    } else {
+        // The value went away: so does the highlight, or the tile would turn
+        // pink again with no highlighted value on it.
+        highlighted = false;
+        setSheet(this, base ? *base : savedStyleSheet);
+    }
 
     const bool filled = cell.value() != 0;
     const QString previous = valueLabel->text();
     const QString text = QString::number(cell.value());
-    valueLabel->setText(text);
-    valueLabel->setVisible(filled);
+    if (text != previous) valueLabel->setText(text);
+    setShown(valueLabel, filled);
     if (valueLabel->isVisible()) {
         const bool changed = text != previous;
-        QString style = styleValueNormal;
-        if (changed && markChanges && cell.origin() == eng::originMove) style = styleValueByMove;
-        if (changed && markChanges && cell.origin() == eng::originPlayer) style = styleValueByPlayer;
-        valueLabel->setStyleSheet(style);
+        const QString* style = &styleValueNormal;
+        if (changed && markChanges && cell.origin() == eng::originMove) style = &styleValueByMove;
+        if (changed && markChanges && cell.origin() == eng::originPlayer) style = &styleValueByPlayer;
+        setSheet(valueLabel, *style);
     }
 
     for (int v = 1; v <= 9; ++v) {
         QLabel* label = potentials[v - 1];
-        label->setVisible(!filled && pencilMarksShown);
-        const bool wasEnabled = label->isEnabled();
-        label->setEnabled(cell.isPotential(v));
+        setShown(label, !filled && pencilMarksShown);
+        const bool wasEnabled = isEnabledHere(label);
+        const bool enabled = cell.isPotential(v);
+        if (enabled != wasEnabled) label->setEnabled(enabled);
         if (!label->isVisible()) continue;
-        if (label->isEnabled())
-            label->setStyleSheet(stylePotentialOn);
+        if (enabled)
+            setSheet(label, stylePotentialOn);
         else if (wasEnabled && markChanges)
-            label->setStyleSheet(stylePotentialRemoved);
+            setSheet(label, stylePotentialRemoved);
         else
-            label->setStyleSheet(stylePotentialOff);
+            setSheet(label, stylePotentialOff);
     }
 }
 
@@ -114,22 +142,22 @@ void Tile::showPencilMarks(bool show) {
     if (pencilMarksShown == show) return;
     pencilMarksShown = show;
     if (valueLabel->text() != QLatin1String("0")) return;
-    for (QLabel* label : potentials) label->setVisible(show);
+    for (QLabel* label : potentials) setShown(label, show);
     resetPotentialStyles();
 }
 
 void Tile::resetPotentialStyles() {
-    for (QLabel* label : potentials) label->setStyleSheet(label->isEnabled() ? stylePotentialOn : stylePotentialOff);
+    for (QLabel* label : potentials) setSheet(label, isEnabledHere(label) ? stylePotentialOn : stylePotentialOff);
 }
 
 void Tile::showValueCaret() {
-    setStyleSheet(styleValueCaret);
+    setSheet(this, styleValueCaret);
     caretMode = ValueCaret;
     setFocus(Qt::OtherFocusReason);
 }
 
 void Tile::showPencilCaret() {
-    setStyleSheet(stylePencilCaret);
+    setSheet(this, stylePencilCaret);
     caretMode = PencilCaret;
     setFocus(Qt::OtherFocusReason);
 }
@@ -139,9 +167,9 @@ Tile::CaretMode Tile::hideCaret() {
     if (highlighted) {
         // The highlight survives the caret and ends on a white tile.
         savedStyleSheet = styleTileNormal;
-        setStyleSheet(styleHighlight);
+        setSheet(this, styleHighlight);
     } else {
-        setStyleSheet(styleTileNormal);
+        setSheet(this, styleTileNormal);
     }
     caretMode = NoCaret;
     return previous;
@@ -152,60 +180,71 @@ bool Tile::hasValue() const { return valueLabel->text() != QLatin1String("0"); }
 int Tile::value() const { return valueLabel->text().toInt(nullptr, 10); }
 
 void Tile::highlightValue(int newValue, int oldValue) {
+    // Re-applying the highlight to a tile that shows it: updates keep a
+    // highlighted tile pink, so there is nothing to undo and redo.
+    if (newValue != 0 && newValue == oldValue && highlighted && value() == newValue &&
+        styleSheet() == styleHighlight)
+        return;
     if (oldValue != 0 && value() == oldValue && highlighted) {
-        setStyleSheet(savedStyleSheet);
+        setSheet(this, savedStyleSheet);
         highlighted = false;
     }
     if (newValue != 0 && value() == newValue) {
         if (!highlighted) savedStyleSheet = styleSheet();
-        setStyleSheet(styleHighlight);
+        setSheet(this, styleHighlight);
         highlighted = true;
     }
 }
 
-// Lets the window repaint, then waits one step. Returns false when the tile
-// went away while events were processed, so the animation stops touching it.
+// Lets the window repaint, paints this tile at once and waits one step: a
+// change made just before is not always painted by the event processing alone
+// on a real display, and the player must see every step. Returns false when
+// the tile went away while events were processed, so the animation stops
+// touching it.
 bool Tile::pause() {
     QPointer<Tile> self(this);
     QCoreApplication::processEvents(QEventLoop::AllEvents);
     if (!self) return false;
+    repaint();
+    QGuiApplication::sync();  // hands the painted step to the display server
     QThread::msleep(kAnimationStepMs);
     return true;
 }
 
 // Re-entry: the animations process events, so clicks, keys and even another
 // animation call can reach this tile before they end. Mouse and key input on an
-// animating tile is dropped (keys go on to the parent as ignored keys), and a
-// nested animation call returns at once, so the labels have one owner until the
-// final state is set. The window also ignores board input while it animates; if
-// the tile is destroyed meanwhile, pause() notices and the animation stops
-// without touching it again.
+// animating tile is dropped (the window holds keys back until it is idle), and
+// a nested animation call returns at once, so the labels have one owner until
+// the final state is set. If the tile is destroyed meanwhile, pause() notices
+// and the animation stops without touching it again.
 void Tile::rejectValue() {
     if (animating) return;
     animating = true;
-    setStyleSheet(styleRejectedValue);
+    setSheet(this, styleRejectedValue);
     for (int step = 0; step < kAnimationSteps; ++step) {
         if (!pause()) return;
-        valueLabel->setVisible(!valueLabel->isVisible());
+        setShown(valueLabel, valueLabel->isHidden());
     }
-    setStyleSheet(styleValueCaret);
+    setSheet(this, styleValueCaret);
     valueLabel->setText(QStringLiteral("0"));
     valueLabel->hide();
-    for (QLabel* label : potentials) label->setVisible(pencilMarksShown);
+    for (QLabel* label : potentials) setShown(label, pencilMarksShown);
     animating = false;
 }
 
+// Ends with the candidate shown only if pencil marks are still switched on:
+// the player may have switched them off while it flashed.
 void Tile::flashPotential(int value) {
     if (animating || value < 1 || value > 9) return;
     animating = true;
     QLabel* label = potentials[value - 1];
-    label->show();
+    setShown(label, true);
     for (int step = 0; step < kAnimationSteps; ++step) {
-        label->setStyleSheet(step % 2 == 0 ? styleFlashRed : styleFlashBlack);
+        setSheet(label, step % 2 == 0 ? styleFlashRed : styleFlashBlack);
         if (!pause()) return;
     }
-    label->show();
-    label->setStyleSheet(styleFlashEnd);
+    setShown(label, pencilMarksShown && !hasValue());
+    setSheet(label, styleFlashEnd);
     animating = false;
 }
 

@@ -100,7 +100,7 @@ inline bool presetSolvesValues(const eng::Board& b, int preset) {
         return false;
     }
     for (const auto& c : s.cells)
-        if (c.potentialCount > 1) return false;
+        if (c.count() > 1) return false;
     return true;
 }
 

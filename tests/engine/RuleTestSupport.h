@@ -21,7 +21,7 @@ inline std::list<int> candidates(const BoardSnapshot& s, int cell) {
 }
 
 inline void clearMarks(BoardSnapshot& s) {
-    for (auto& c : s.cells) c.modified = false;
+    for (auto& c : s.cells) c.setModified(false);
 }
 
 inline bool run(BoardSnapshot& s, std::list<eng::Rules> rules) { return eng_priv::RuleSolver(rules).applyAll(s); }

@@ -396,7 +396,7 @@ TEST(ChooseCell, MostChoicesAndFewestChoices) {
     for (size_t i = 1; i < order.size(); ++i) std::swap(order[i], order[std::rand() % (i + 1)]);
     eng_priv::Cell* lastSix = nullptr;
     for (auto* c : order)
-        if (c->potentialCount == 6) lastSix = c;
+        if (c->count() == 6) lastSix = c;
     std::srand(11);
     EXPECT_EQ(BoardTestAccess::chooseCell(board, cells, 3), lastSix);
 

@@ -1,11 +1,10 @@
-// Cells, tuples, positions and the texts of the two conflict kinds.
+// Cells, positions and the texts of the two conflict kinds.
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "BoardSnapshot.h"
 #include "Conflicts.h"
-#include "Tuple.h"
 
 using eng::ExCellConflict;
 using eng::ExTupleConflict;
@@ -54,7 +53,7 @@ TEST(Conflicts, TupleDescriptions) {
 TEST(Cells, IndexDerivesRowColumnSquare) {
     Cell c;
     EXPECT_EQ(c.index(), -1);
-    EXPECT_EQ(c.potentialCount, 9);
+    EXPECT_EQ(c.count(), 9);
     c.reset(30);
     EXPECT_EQ(c.row(), 3);
     EXPECT_EQ(c.column(), 3);
@@ -71,10 +70,10 @@ TEST(Cells, OperationsAndTheirConflicts) {
     Cell c;
     c.reset(10);
     EXPECT_TRUE(c.setSinglePotential(4));
-    EXPECT_TRUE(c.modified);
-    c.modified = false;
+    EXPECT_TRUE(c.isModified());
+    c.setModified(false);
     EXPECT_FALSE(c.setSinglePotential(4));
-    EXPECT_FALSE(c.modified);
+    EXPECT_FALSE(c.isModified());
     EXPECT_EQ(cellConflictKind([&] { c.setSinglePotential(5); }), 1);
     EXPECT_EQ(cellConflictKind([&] { c.setValue(5, 2); }), 0);
     c.setValue(4, 2);
@@ -98,30 +97,13 @@ TEST(Cells, OperationsAndTheirConflicts) {
     Cell e;
     EXPECT_EQ(cellConflictKind([&] { e.keepOnlyPotentials({}); }), 3);
 
-    Cell a, b;
-    a.keepOnlyPotentials({2, 5});
-    b.keepOnlyPotentials({5, 2});
-    EXPECT_FALSE(a.sharesExactlyOne(b));
-    EXPECT_EQ(a.firstCommonPotential(b), 2);
-    b.keepOnlyPotentials({5});
-    EXPECT_TRUE(a.sharesExactlyOne(b));
+    Cell a;
+    EXPECT_TRUE(a.keepOnly(eng_priv::bitOf(2) | eng_priv::bitOf(5) | 0x400));
+    EXPECT_EQ(a.mask(), 0x12u);
+    EXPECT_FALSE(a.removeValues(eng_priv::bitOf(9)));
     std::vector<int> values{7};
     a.potentials(values);
     EXPECT_EQ(values, (std::vector<int>{2, 5}));
-}
-
-TEST(Tuples, RemovalKeepsCellsMatchedByIndex) {
-    BoardSnapshot s;
-    eng_priv::Row row;
-    row.init(0);
-    EXPECT_EQ(row.name(), "row");
-    for (int i = 0; i < 9; ++i) row.addCell(&s.cells[i]);
-    BoardSnapshot other;  // a kept cell from another copy of the position
-    EXPECT_TRUE(row.removeFromOthers(5, &other.cells[0]));
-    EXPECT_TRUE(s.cells[0].isPotential(5));
-    EXPECT_FALSE(s.cells[1].isPotential(5));
-    EXPECT_TRUE(s.cells[1].modified);
-    EXPECT_FALSE(row.removeFromOthers(5, &s.cells[0]));
 }
 
 TEST(Snapshots, CopiesAndEmptyCells) {
@@ -129,17 +111,16 @@ TEST(Snapshots, CopiesAndEmptyCells) {
     s.guess = eng_priv::Guess(4, 7);
     s.cells[4].setSinglePotential(7);
     s.cells[4].setValue(7, 3);
-    BoardSnapshot* copy = s.copy();
+    auto copy = s.copy();
     EXPECT_EQ(copy->guess.index, -1);
     EXPECT_EQ(copy->guess.value, 0);
     EXPECT_EQ(copy->cells[4].value(), 7);
     EXPECT_EQ(copy->cells[4].origin(), 3);
-    EXPECT_TRUE(copy->cells[4].modified);
+    EXPECT_TRUE(copy->cells[4].isModified());
     EXPECT_EQ(copy->cells[40].row(), 4);
     std::vector<Cell*> empty;
     EXPECT_TRUE(copy->emptyCells(empty));
     EXPECT_EQ(empty.size(), 80u);
-    delete copy;
     BoardSnapshot full;
     for (int i = 0; i < 81; ++i) {
         const int v = (i * 3 + i / 9 + (i / 27)) % 9 + 1;
@@ -181,61 +162,21 @@ TEST(Cells, ResetAndNarrowing) {
     EXPECT_EQ(c.row(), 0);
     EXPECT_EQ(c.column(), 0);
     EXPECT_EQ(c.square(), 0);
-    EXPECT_FALSE(c.modified);
+    EXPECT_FALSE(c.isModified());
     // Values that are not candidates are ignored; nothing changed keeps the mark clear.
     EXPECT_FALSE(c.keepOnlyPotentials({1, 2, 3, 4, 5, 6, 7, 8, 9, 12}));
-    EXPECT_FALSE(c.modified);
+    EXPECT_FALSE(c.isModified());
     EXPECT_TRUE(c.keepOnlyPotentials({4, 6, 0}));
-    EXPECT_TRUE(c.modified);
-    EXPECT_EQ(c.potentialCount, 2);
+    EXPECT_TRUE(c.isModified());
+    EXPECT_EQ(c.count(), 2);
     EXPECT_FALSE(c.keepOnlyPotentials({4, 6, 9}));
     EXPECT_EQ(cellConflictKind([&] { c.keepOnlyPotentials({9}); }), 3);
-    EXPECT_EQ(c.potentialCount, 0);
+    EXPECT_EQ(c.count(), 0);
 
     EXPECT_EQ(cellConflictKind([&] { c.setValue(0, 2); }), 0);  // 0 is never a candidate
     c.reset(45);
-    EXPECT_EQ(c.potentialCount, 9);
-    EXPECT_FALSE(c.modified);
+    EXPECT_EQ(c.count(), 9);
+    EXPECT_FALSE(c.isModified());
     EXPECT_EQ(c.value(), 0);
     EXPECT_EQ(c.square(), 3);
-}
-
-TEST(Tuples, NamesAndRemovalsKeepingSeveralCells) {
-    eng_priv::Column plain;
-    EXPECT_EQ(plain.index, -1);
-    EXPECT_EQ(plain.name(), "<unnamed>");
-    BoardSnapshot s;
-    eng_priv::Square sq;
-    sq.init(3);
-    EXPECT_EQ(sq.name(), "square");
-    EXPECT_EQ(sq.index, 3);
-    for (int i : {27, 28, 29, 36, 37, 38, 45, 46, 47}) sq.addCell(&s.cells[i]);
-    EXPECT_TRUE(sq.removeFromOthers(2, &s.cells[27], &s.cells[47]));
-    EXPECT_TRUE(s.cells[27].isPotential(2));
-    EXPECT_TRUE(s.cells[47].isPotential(2));
-    EXPECT_FALSE(s.cells[28].isPotential(2));
-    EXPECT_TRUE(sq.removeFromOthers(3, &s.cells[27], &s.cells[28], &s.cells[29]));
-    EXPECT_TRUE(s.cells[29].isPotential(3));
-    EXPECT_FALSE(s.cells[36].isPotential(3));
-
-    // A removal that empties a cell: the cells before it keep their change,
-    // the emptied cell is left without its mark, the cells after it untouched.
-    s.cells[38].keepOnlyPotentials({4});
-    s.cells[38].modified = false;
-    try {
-        sq.removeFromOthers(4, &s.cells[27]);
-        FAIL() << "expected a conflict";
-    } catch (ExCellConflict& e) {
-        EXPECT_EQ(e.kind, 3);
-        EXPECT_EQ(e.cellIndex, 38);
-        EXPECT_EQ(e.value, 0);
-    }
-    EXPECT_FALSE(s.cells[37].isPotential(4));
-    EXPECT_EQ(s.cells[38].potentialCount, 0);
-    EXPECT_FALSE(s.cells[38].modified);
-    EXPECT_TRUE(s.cells[45].isPotential(4));
-
-    sq.init(5, "square");
-    EXPECT_TRUE(sq.cells.empty());
-    EXPECT_EQ(sq.index, 5);
 }

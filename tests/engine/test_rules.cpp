@@ -32,7 +32,7 @@ std::string emptied(int cell) { return "Conflict at cell index=" + std::to_strin
 
 int countCandidates(const BoardSnapshot& s) {
     int n = 0;
-    for (const auto& c : s.cells) n += c.potentialCount;
+    for (const auto& c : s.cells) n += c.count();
     return n;
 }
 
@@ -169,7 +169,7 @@ TEST(RuleNakedTriples, OnlyMarkedTuplesAreSearched) {
     keep(s, 1, {1, 2});
     keep(s, 2, {2, 3});
     clearMarks(s);
-    s.cells[8].modified = true;  // a mark anywhere in the row is enough
+    s.cells[8].setModified(true);  // a mark anywhere in the row is enough
     EXPECT_TRUE(run(s, {ruleTriples}));
     EXPECT_FALSE(s.cells[4].isPotential(2));
     EXPECT_TRUE(s.cells[9].isPotential(2));  // square 0 had no mark
@@ -223,7 +223,7 @@ TEST(RuleLocked, SegmentsNeedAMarkAndPlacedValuesCountOutside) {
     BoardSnapshot s;
     removeFrom(s, 5, {1, 3, 4, 5, 6, 7, 8});
     BoardSnapshot segmentUnmarked = s;
-    for (int i : {0, 1, 2}) segmentUnmarked.cells[i].modified = false;
+    for (int i : {0, 1, 2}) segmentUnmarked.cells[i].setModified(false);
     EXPECT_FALSE(run(segmentUnmarked, {ruleLockedByRows}));
 
     // A 5 placed in the row (its only candidate 5) counts outside the segment.
@@ -310,7 +310,7 @@ TEST(RuleHidden, FilledCellsAreNeverChosen) {
     removeFrom(s, 6, {0, 1, 2, 3, 5, 6, 7, 8});
     s.cells[4].setValue(6, 2);
     EXPECT_FALSE(run(s, {ruleHiddenSingles}));
-    EXPECT_EQ(s.cells[4].potentialCount, 9);
+    EXPECT_EQ(s.cells[4].count(), 9);
 }
 
 TEST(RulePassChains, FamiliesFeedEachOther) {

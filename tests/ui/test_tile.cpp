@@ -184,6 +184,31 @@ private slots:
         QCOMPARE(t.styleSheet(), Tile::styleTileNormal);
     }
 
+    void unchangedUpdateTouchesNothing() {
+        // Style, text, visibility and enabled state are assigned only when they change.
+        struct Counter : QObject {
+            int changes = 0;
+            bool eventFilter(QObject*, QEvent* e) override {
+                changes += e->type() == QEvent::StyleChange || e->type() == QEvent::ShowToParent ||
+                           e->type() == QEvent::HideToParent || e->type() == QEvent::EnabledChange;
+                return false;
+            }
+        } counter;
+        for (auto cell : {cellWith(37, 0, 0, {2, 4}), cellWith(37, 6, eng::originGiven)}) {
+            for (bool pencil : {false, true}) {
+                tile->showPencilMarks(pencil);
+                tile->updateFromCell(cell, false);
+                tile->resetPotentialStyles();
+                tile->installEventFilter(&counter);
+                for (QWidget* child : tile->findChildren<QWidget*>()) child->installEventFilter(&counter);
+                counter.changes = 0;
+                tile->updateFromCell(cell, false);
+                tile->resetPotentialStyles();
+                QCOMPARE(counter.changes, 0);
+            }
+        }
+    }
+
     void mouseSignals() {
         QSignalSpy left(tile, &Tile::leftClicked);
         QSignalSpy right(tile, &Tile::rightClicked);
@@ -308,6 +333,10 @@ private slots:
         QCOMPARE(steps, QStringList({"shown red", "shown black", "shown red", "shown black"}));
         QVERIFY(candidate(*tile, 4)->isVisible());
         QCOMPARE(candidate(*tile, 4)->styleSheet(), Tile::styleFlashEnd);
+        // Pencil marks switched off while it flashes: the candidate ends hidden.
+        QTimer::singleShot(0, tile, [this] { tile->showPencilMarks(false); });
+        tile->flashPotential(4);
+        QVERIFY(candidate(*tile, 4)->isHidden());
     }
 
     void inputDuringAnimationIsHarmless() {

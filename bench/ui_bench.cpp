@@ -1,0 +1,161 @@
+// How long the window takes to show what the player asked for, measured on the
+// real widgets: a move, a retraction, a value entry (slot call to return, the
+// repaint included), a new game at each level (from the engine's report of the
+// finished game to the return of the command), and start-up (application
+// object to the first painted board, in a fresh process each time).
+// Run it on the platform to measure: QT_QPA_PLATFORM=offscreen, or under
+// scripts/with-display.sh for xcb.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QtTest>
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+#include "SudokuWindow.h"
+
+namespace {
+
+double percentile(std::vector<double> samples, double p) {
+    if (samples.empty()) return 0;
+    std::sort(samples.begin(), samples.end());
+    const size_t i = std::min(samples.size() - 1, static_cast<size_t>(p * (samples.size() - 1) + 0.5));
+    return samples[i];
+}
+
+void report(benchmark::State& state, const std::vector<double>& millis) {
+    state.counters["median_ms"] = percentile(millis, 0.5);
+    state.counters["p99_ms"] = percentile(millis, 0.99);
+}
+
+double msSince(const QElapsedTimer& timer) { return timer.nsecsElapsed() / 1e6; }
+
+// Remembers when the engine last reported the cells.
+class TimedWindow : public SudokuWindow {
+public:
+    QElapsedTimer lastReport;
+    void cellsChanged(const std::vector<eng::CellInfo*>& cells) override {
+        lastReport.start();
+        SudokuWindow::cellsChanged(cells);
+    }
+};
+
+TimedWindow& window() {
+    static TimedWindow* w = [] {
+        auto* created = new TimedWindow;
+        created->show();
+        if (!QTest::qWaitForWindowExposed(created)) std::fprintf(stderr, "window not exposed\n");
+        return created;
+    }();
+    QCoreApplication::processEvents();
+    return *w;
+}
+
+int firstEmpty(SudokuWindow& w) {
+    for (int i = 0; i < 81; ++i)
+        if (!w.tileAt(i)->hasValue()) return i;
+    return -1;
+}
+
+// Make Move, then Retract Move: each command timed on its own.
+void BM_MakeMove(benchmark::State& state) {
+    TimedWindow& w = window();
+    std::vector<double> make, retract;
+    for (auto _ : state) {
+        QElapsedTimer t;
+        t.start();
+        w.makeMove();
+        make.push_back(msSince(t));
+        t.start();
+        w.retractMove();
+        retract.push_back(msSince(t));
+    }
+    report(state, make);
+    state.counters["retract_median_ms"] = percentile(retract, 0.5);
+    state.counters["retract_p99_ms"] = percentile(retract, 0.99);
+}
+BENCHMARK(BM_MakeMove)->Iterations(200)->Unit(benchmark::kMillisecond);
+
+// The right value typed into the first empty cell, then taken back untimed.
+void BM_ValueEntry(benchmark::State& state) {
+    TimedWindow& w = window();
+    std::vector<double> millis;
+    for (auto _ : state) {
+        const int i = firstEmpty(w);
+        const int v = w.currentBoard()->solutionValue(i);
+        QElapsedTimer t;
+        t.start();
+        w.tileValueEdited(i, v);
+        millis.push_back(msSince(t));
+        w.retractMove();
+    }
+    report(state, millis);
+}
+BENCHMARK(BM_ValueEntry)->Iterations(200)->Unit(benchmark::kMillisecond);
+
+// A new game at each level on the window's board: the time from the engine's
+// report of the finished game until the board is shown and the call returns.
+void BM_NewGameShown(benchmark::State& state) {
+    TimedWindow& w = window();
+    std::vector<double> millis;
+    for (auto _ : state) {
+        w.currentBoard()->generate(static_cast<int>(state.range(0)));
+        millis.push_back(msSince(w.lastReport));
+    }
+    report(state, millis);
+}
+BENCHMARK(BM_NewGameShown)->DenseRange(0, 4)->Iterations(15)->Unit(benchmark::kMillisecond);
+
+// One fresh process per iteration: it prints the milliseconds from its
+// application object to the first painted board.
+void BM_StartUp(benchmark::State& state) {
+    std::vector<double> millis;
+    for (auto _ : state) {
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {"--startup-child"});
+        child.waitForFinished(60000);
+        millis.push_back(QString::fromLatin1(child.readAllStandardOutput()).trimmed().toDouble());
+    }
+    report(state, millis);
+}
+BENCHMARK(BM_StartUp)->Iterations(20)->Unit(benchmark::kMillisecond);
+
+class PaintWatch : public QObject {
+public:
+    bool painted = false;
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) painted = true;
+        return false;
+    }
+};
+
+int startUpChild(int argc, char** argv) {
+    QElapsedTimer t;
+    t.start();
+    QApplication app(argc, argv);
+    const double appMs = msSince(t);
+    SudokuWindow w;
+    const double windowMs = msSince(t);
+    PaintWatch watch;
+    w.tileAt(80)->installEventFilter(&watch);
+    w.show();
+    while (!watch.painted) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    std::printf("%.3f\n", msSince(t));
+    if (qEnvironmentVariableIsSet("SUDOKU_BENCH_STEPS"))
+        std::fprintf(stderr, "application %.1f ms, window built %.1f ms, painted %.1f ms\n", appMs, windowMs, msSince(t));
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc > 1 && std::strcmp(argv[1], "--startup-child") == 0) return startUpChild(argc, argv);
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

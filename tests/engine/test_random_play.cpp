@@ -1,0 +1,207 @@
+// Random play through the board's public operations at every level. After
+// every step the position must keep the invariants of a game, survive a save
+// and a load byte for byte, and the loaded board must answer the next
+// operation exactly as the original does. SUDOKU_RANDOM_PLAY_SESSIONS sets the
+// number of sessions (scripts/random-play.sh runs long ones).
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <memory>
+#include <random>
+#include <sstream>
+#include <string>
+
+#include "Board.h"
+
+namespace {
+
+using eng::Board;
+
+// Writes down every notification; cell lists as value, origin and candidates.
+struct Transcript : eng::BoardObserver {
+    std::string text;
+    std::string problem;  // a cell list that was not the 81 cells in index order
+
+    void cells(const char* what, const std::vector<eng::CellInfo*>& cells) {
+        text += what;
+        for (size_t i = 0; i < cells.size(); ++i) {
+            if (cells[i]->index() != int(i)) problem = "cell list out of index order";
+            text += ' ' + std::to_string(cells[i]->value()) + std::to_string(cells[i]->origin());
+            for (int v = 1; v <= 9; ++v) text += cells[i]->isPotential(v) ? char('0' + v) : '.';
+        }
+        if (cells.size() != 81) problem = std::string(what) + " with " + std::to_string(cells.size()) + " cells";
+        text += '\n';
+    }
+    void note(const char* what, int a, int b) {
+        text += std::string(what) + ' ' + std::to_string(a) + ' ' + std::to_string(b) + '\n';
+    }
+    void cellsChanged(const std::vector<eng::CellInfo*>& c) override { cells("cellsChanged", c); }
+    void noMoreMoves(const std::vector<eng::CellInfo*>& c) override { cells("noMoreMoves", c); }
+    void cellHasNoSolution(const std::vector<eng::CellInfo*>& c, int cell) override {
+        cells("cellHasNoSolution", c);
+        note("cell", cell, 0);
+    }
+    void loadFailed(int expected, int actual) override { note("loadFailed", expected, actual); }
+    void valueRefused(int index, int value) override { note("valueRefused", index, value); }
+    void potentialRefused(int index, int value) override { note("potentialRefused", index, value); }
+};
+
+std::string saved(Board& b) {
+    std::ostringstream out(std::ios::binary);
+    b.serialize(out);
+    return out.str();
+}
+
+// A board loaded from bytes; `rules` is given to it before loading, which
+// stores the list without running it.
+std::unique_ptr<Board> loaded(const std::string& bytes, Transcript* t, const std::list<eng::Rules>& rules) {
+    auto b = std::make_unique<Board>(t);
+    b->setPencilMarksRules(rules);
+    std::istringstream in(bytes, std::ios::binary);
+    return b->deserialize(in) ? std::move(b) : nullptr;
+}
+
+// The first digit standing twice in a row, column or square, as text.
+std::string repeatedDigit(const int (&values)[81]) {
+    int seen[27] = {};
+    for (int i = 0; i < 81; ++i) {
+        if (values[i] == 0) continue;
+        for (int unit : {i / 9, 9 + i % 9, 18 + (i / 27) * 3 + i % 9 / 3}) {
+            if (seen[unit] & (1 << values[i]))
+                return std::to_string(values[i]) + " twice in unit " + std::to_string(unit);
+            seen[unit] |= 1 << values[i];
+        }
+    }
+    return "";
+}
+
+// What every position of a game keeps; empty when all holds.
+std::string brokenInvariant(const Board& b) {
+    if (b.historySize() == 0) return "";
+    const bool generated = b.getLevel() != eng::lvlUserEdit;
+    int values[81], solution[81];
+    for (int i = 0; i < 81; ++i) {
+        const eng::CellInfo& c = *b.cell(i);
+        values[i] = c.value();
+        solution[i] = b.solutionValue(i);
+        int candidates = 0;
+        for (int p = 1; p <= 9; ++p) candidates += c.isPotential(p);
+        const std::string at = "cell " + std::to_string(i) + ": ";
+        if (values[i] == 0 && candidates == 0) return at + "empty without a candidate";
+        if (values[i] != 0 && (!c.isPotential(values[i]) || candidates != 1))
+            return at + "its value is not its only candidate";
+        if (generated && (solution[i] == 0 || (values[i] != 0 && values[i] != solution[i])))
+            return at + "differs from the solution";
+    }
+    if (generated && !repeatedDigit(solution).empty()) return "solution: " + repeatedDigit(solution);
+    return repeatedDigit(values);
+}
+
+int sessionCount() {
+    if (const char* n = std::getenv("SUDOKU_RANDOM_PLAY_SESSIONS")) return std::atoi(n);
+#ifdef NDEBUG
+    return 240;
+#else
+    return 24;  // sanitizer builds: a short run
+#endif
+}
+
+// One of the sixteen rules, or now and then a value that is none.
+eng::Rules randomRule(std::mt19937& rng) {
+    static const int values[] = {1, 2, 3, 4, 7, 8, 16, 32, 64, 128, 256, 512, 1024, 2048, 4096, 8192,
+                                 0, 3 | 8 | 1024, 1 << 20, -1};
+    return static_cast<eng::Rules>(values[rng() % 20]);
+}
+
+std::list<eng::Rules> randomRules(std::mt19937& rng) {
+    std::list<eng::Rules> rules;
+    for (int n = int(rng() % 5); n > 0; --n) rules.push_back(randomRule(rng));
+    return rules;
+}
+
+}  // namespace
+
+TEST(RandomPlay, AFilledCellTakesNoOtherCandidate) {
+    Transcript t;
+    Board b(&t);
+    ASSERT_TRUE(b.generate(eng::lvlUserEdit));
+    ASSERT_TRUE(b.setValue(40, 7));
+    EXPECT_FALSE(b.togglePotential(40, 9));
+    EXPECT_FALSE(b.togglePotential(40, 7));  // nor loses its value's
+    EXPECT_EQ(t.text.substr(t.text.find("potentialRefused")), "potentialRefused 40 9\npotentialRefused 40 7\n");
+    EXPECT_FALSE(b.setValue(13, 7));  // column 4 already holds a 7
+    EXPECT_EQ(brokenInvariant(b), "");
+    EXPECT_NE(loaded(saved(b), &t, {}), nullptr);
+}
+
+TEST(RandomPlay, EveryStepKeepsTheGameConsistentAndSavable) {
+    { Board first(nullptr); }  // the first board seeds rand() from the clock; the seeds below win
+    std::mt19937 rng(20261123);
+    const int sessions = sessionCount();
+    long steps = 0;
+    for (int session = 0; session < sessions; ++session) {
+        const int level = session % 6;
+        Transcript t;
+        auto board = std::make_unique<Board>(&t);
+        std::list<eng::Rules> rules = randomRules(rng);
+        board->setPencilMarksRules(rules);
+        std::srand(unsigned(session) + 1);
+        ASSERT_TRUE(board->generate(level)) << "session " << session;
+        const int length = 10 + int(rng() % 40);
+        for (int step = 0; step < length; ++step, ++steps) {
+            const std::string where = "session " + std::to_string(session) + " (level " + std::to_string(level) +
+                                      ") step " + std::to_string(step) + ": ";
+            ASSERT_EQ(t.problem, "") << where;
+            ASSERT_EQ(brokenInvariant(*board), "") << where;
+            // Saved, loaded and saved again: the same bytes.
+            const std::string bytes = saved(*board);
+            Transcript twinTranscript;
+            auto twin = loaded(bytes, &twinTranscript, rules);
+            ASSERT_NE(twin, nullptr) << where << "a saved game does not load";
+            ASSERT_EQ(saved(*twin), bytes) << where;
+
+            // The next operation, on the board and on its loaded twin.
+            const int index = int(rng() % 81);
+            int value = 1 + int(rng() % 9);
+            if (rng() % 40 == 0) value = rng() % 2 ? 0 : 10;
+            const int kind = int(rng() % 100);
+            if (kind < 30 && level != eng::lvlUserEdit && rng() % 3) value = board->solutionValue(index);
+            const eng::Rules rule = randomRule(rng);
+            const std::list<eng::Rules> nextRules = randomRules(rng);
+            const std::string cellArgs = " " + std::to_string(index) + " " + std::to_string(value);
+            const std::string op = kind < 30   ? "setValue" + cellArgs
+                                   : kind < 60 ? "togglePotential" + cellArgs
+                                   : kind < 72 ? "makeMove"
+                                   : kind < 84 ? "retract"
+                                   : kind < 89 ? "setPencilMarksRules"
+                                   : kind < 94 ? "applyPencilMarksRule " + std::to_string(rule)
+                                               : "isComplete";
+            const unsigned seed = unsigned(rng());
+            auto run = [&](Board& b) {
+                std::srand(seed);
+                if (kind < 30) return b.setValue(index, value);
+                if (kind < 60) return b.togglePotential(index, value);
+                if (kind < 72) return b.makeMove();
+                if (kind < 84) return b.retract();
+                if (kind < 89) b.setPencilMarksRules(nextRules);
+                if (kind >= 89 && kind < 94) b.applyPencilMarksRule(rule);
+                return b.isComplete();
+            };
+            if (kind >= 97) {  // saved and opened again, as the window does: no rules yet
+                board = loaded(bytes, &t, {});
+                rules.clear();
+                continue;
+            }
+            t.text.clear();
+            twinTranscript.text.clear();
+            const bool result = run(*board);
+            const bool twinResult = run(*twin);
+            if (op == "setPencilMarksRules") rules = nextRules;
+            ASSERT_EQ(twinResult, result) << where << op;
+            ASSERT_EQ(twinTranscript.text, t.text) << where << op;
+            ASSERT_EQ(saved(*twin), saved(*board)) << where << op;
+        }
+        ASSERT_EQ(brokenInvariant(*board), "") << "session " << session << " end";
+    }
+    std::cout << "random play: " << sessions << " sessions, " << steps << " steps\n";
+}
