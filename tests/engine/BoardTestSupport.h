@@ -78,6 +78,12 @@ inline std::vector<int> values(const eng::Board& b) {
     return out;
 }
 
+inline int candidateCount(const eng::CellInfo* c) {
+    int n = 0;
+    for (int v = 1; v <= 9; ++v) n += c->isPotential(v);
+    return n;
+}
+
 inline int filledCount(const eng::Board& b) {
     int n = 0;
     for (int i = 0; i < 81; ++i) n += b.cell(i) && b.cell(i)->value() != 0;
