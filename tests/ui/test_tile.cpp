@@ -25,6 +25,12 @@ eng_priv::Cell cellWith(int index, int value, int origin, std::list<int> candida
 QLabel* candidate(Tile& tile, int v) { return tile.findChild<QLabel*>(QString("lbl%1").arg(v)); }
 QLabel* valueLabel(Tile& tile) { return tile.findChild<QLabel*>("lblValue"); }
 
+int shownCandidates(Tile& tile) {
+    int n = 0;
+    for (int v = 1; v <= 9; ++v) n += candidate(tile, v)->isVisible();
+    return n;
+}
+
 struct KeyReleaseCounter : QObject {
     int releases = 0;
     bool eventFilter(QObject*, QEvent* event) override {
@@ -61,27 +67,20 @@ private slots:
         QCOMPARE(fresh.value(), 0);
         QCOMPARE(valueLabel(fresh)->text(), QString("0"));
         QVERIFY(valueLabel(fresh)->isHidden());
-        for (int v = 1; v <= 9; ++v) {
-            QVERIFY(candidate(fresh, v)->isHidden());
-            QCOMPARE(candidate(fresh, v)->styleSheet(), Tile::stylePotentialOn);
-        }
-        QCOMPARE(fresh.size(), QSize(193, 199));
+        for (int v = 1; v <= 9; ++v) QCOMPARE(candidate(fresh, v)->styleSheet(), Tile::stylePotentialOn);
+        QCOMPARE(shownCandidates(fresh), 0);
         saveTile(fresh, "fresh");
-        QCOMPARE(Tile::stylePotentialRemoved, QString("QLabel { background-color: red;  color : white; }"));
-        QCOMPARE(Tile::styleRejectedValue,
-                 QString("background-color: rgb(170, 255, 127); text-decoration: line-through; font: 75 24pt "
-                         "\"MS Shell Dlg 2\"; color: rgb(255, 0, 0);"));
     }
 
     void emptyCellAndPencilMarks() {
         tile->updateFromCell(cellWith(37, 0, 0, {1, 2, 5}), false);
         QCOMPARE(tile->styleSheet(), Tile::styleTileNormal);
-        for (int v = 1; v <= 9; ++v) QVERIFY(candidate(*tile, v)->isHidden());
+        QCOMPARE(shownCandidates(*tile), 0);
         QVERIFY(valueLabel(*tile)->isHidden());
         saveTile(*tile, "empty");
         tile->showPencilMarks(true);
+        QCOMPARE(shownCandidates(*tile), 9);
         for (int v = 1; v <= 9; ++v) {
-            QVERIFY(candidate(*tile, v)->isVisible());
             const bool on = v == 1 || v == 2 || v == 5;
             QCOMPARE(candidate(*tile, v)->isEnabled(), on);
             QCOMPARE(candidate(*tile, v)->styleSheet(), on ? Tile::stylePotentialOn : Tile::stylePotentialOff);
@@ -116,7 +115,7 @@ private slots:
         other.updateFromCell(cellWith(1, 6, eng::originMove), true);
         QCOMPARE(other.styleSheet(), Tile::styleTileNormal);
         QCOMPARE(valueLabel(other)->styleSheet(), Tile::styleValueByMove);
-        for (int v = 1; v <= 9; ++v) QVERIFY(candidate(other, v)->isHidden());
+        QCOMPARE(shownCandidates(other), 0);
         saveTile(other, "placed_by_move");
         other.updateFromCell(cellWith(1, 6, eng::originMove), true);  // unchanged: black again
         QCOMPARE(valueLabel(other)->styleSheet(), Tile::styleValueNormal);
@@ -133,9 +132,9 @@ private slots:
     void pencilMarksOnFilledTile() {
         tile->updateFromCell(cellWith(37, 8, eng::originPlayer), false);
         tile->showPencilMarks(true);  // only the flag changes
-        for (int v = 1; v <= 9; ++v) QVERIFY(candidate(*tile, v)->isHidden());
+        QCOMPARE(shownCandidates(*tile), 0);
         tile->updateFromCell(cellWith(37, 0, 0, {3, 8}), false);
-        for (int v = 1; v <= 9; ++v) QVERIFY(candidate(*tile, v)->isVisible());
+        QCOMPARE(shownCandidates(*tile), 9);
         QCOMPARE(candidate(*tile, 8)->styleSheet(), Tile::stylePotentialOn);
         QCOMPARE(candidate(*tile, 9)->styleSheet(), Tile::stylePotentialOff);
         // Marked removal, then an unmarked update: near-white, not red.
@@ -259,14 +258,12 @@ private slots:
         QCOMPARE(edited.count(), 1);
         for (auto key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) QTest::keyClick(tile, key);
         QCOMPARE(moved.count(), 4);
-        QCOMPARE(moved.at(0).at(1).value<Tile::CaretDirection>(), Tile::Left);
-        QCOMPARE(moved.at(1).at(1).value<Tile::CaretDirection>(), Tile::Right);
-        QCOMPARE(moved.at(2).at(1).value<Tile::CaretDirection>(), Tile::Up);
-        QCOMPARE(moved.at(3).at(1).value<Tile::CaretDirection>(), Tile::Down);
+        for (auto dir : {Tile::Left, Tile::Right, Tile::Up, Tile::Down})
+            QCOMPARE(moved.takeFirst().at(1).value<Tile::CaretDirection>(), dir);
 
         QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_Down, Qt::NoModifier, QString(), true);
         QApplication::sendEvent(tile, &repeated);
-        QCOMPARE(moved.count(), 5);
+        QCOMPARE(moved.count(), 1);
 
         tile->updateFromCell(cellWith(37, 0, 0), false);
         tile->showPencilMarks(true);
@@ -307,12 +304,12 @@ private slots:
         QVERIFY(valueLabel(*tile)->isHidden());
         QCOMPARE(tile->styleSheet(), Tile::styleValueCaret);
         QCOMPARE(tile->caret(), Tile::ValueCaret);
-        for (int v = 1; v <= 9; ++v) QVERIFY(candidate(*tile, v)->isVisible());
+        QCOMPARE(shownCandidates(*tile), 9);
         QCOMPARE(candidate(*tile, 5)->styleSheet(), Tile::stylePotentialOff);
 
         tile->showPencilMarks(false);
         tile->rejectValue();
-        for (int v = 1; v <= 9; ++v) QVERIFY(candidate(*tile, v)->isHidden());
+        QCOMPARE(shownCandidates(*tile), 0);
         QVERIFY(valueLabel(*tile)->isHidden());
     }
 
@@ -359,23 +356,18 @@ private slots:
     }
 
     void tileDestroyedDuringAnimation() {
-        tile->showValueCaret();
-        QTest::keyClick(tile, Qt::Key_9);
-        QTimer::singleShot(250, this, [this] {
-            delete tile;
-            tile = nullptr;
-        });
-        tile->rejectValue();  // must return without touching the dead tile
-        QVERIFY(!tile);
-
-        init();
-        tile->showPencilMarks(true);
-        QTimer::singleShot(250, this, [this] {
-            delete tile;
-            tile = nullptr;
-        });
-        tile->flashPotential(2);
-        QVERIFY(!tile);
+        for (bool flash : {false, true}) {  // must return without touching the dead tile
+            if (flash) init();
+            tile->showPencilMarks(flash);
+            tile->showValueCaret();
+            QTest::keyClick(tile, Qt::Key_9);
+            QTimer::singleShot(250, this, [this] {
+                delete tile;
+                tile = nullptr;
+            });
+            flash ? tile->flashPotential(2) : tile->rejectValue();
+            QVERIFY(!tile);
+        }
     }
 
 private:
