@@ -15,17 +15,11 @@
 #include "PencilMarksOptions.h"
 #include "PrintingInfo.h"
 #include "TestPictures.h"
+#include "WindowTestSupport.h"
 
 using Rules = std::list<eng::Rules>;
 
 namespace {
-
-template <typename T = QPushButton>
-T* child(QWidget& w, const char* name) {
-    T* found = w.findChild<T*>(name);
-    if (!found) qFatal("missing child %s", name);
-    return found;
-}
 
 QAbstractButton* dialogButton(QWidget& w, QDialogButtonBox::StandardButton which) {
     return child<QDialogButtonBox>(w, "buttonBox")->button(which);

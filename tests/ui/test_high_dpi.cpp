@@ -90,13 +90,6 @@ void savePicture(QWidget* w, const QString& name) {
     savePicture(shot, QString("scale_%1_%2").arg(w->devicePixelRatioF(), 0, 'f', 2).arg(name));
 }
 
-template <typename T>
-T* child(QWidget& w, const char* name) {
-    T* found = w.findChild<T*>(name);
-    if (!found) qFatal("missing child %s", name);
-    return found;
-}
-
 }  // namespace
 
 class HighDpiTest : public QObject {
@@ -116,7 +109,7 @@ private slots:
         QFETCH(QString, action);
         QFETCH(QString, level);
         MessageBoxAnswerer answerer;
-        window().findChild<QAction*>(action)->trigger();
+        trigger(window(), qPrintable(action));
         QCOMPARE(child<QLabel>(window(), "txtLevel")->text(), level);
         savePicture(&window(), "window_" + action);
         const QStringList bad = clipped(&window());

@@ -19,13 +19,7 @@
 
 namespace {
 
-QAction* action(SudokuWindow& w, const char* name) { return w.findChild<QAction*>(name); }
-
-int firstEmpty(SudokuWindow& w, int from = 0) {
-    for (int i = from; i < 81; ++i)
-        if (!w.tileAt(i)->hasValue()) return i;
-    return -1;
-}
+QAction* action(SudokuWindow& w, const char* name) { return child<QAction>(w, name); }
 
 std::vector<int> shownValues(SudokuWindow& w) {
     std::vector<int> v;
@@ -150,24 +144,24 @@ private slots:
 
     void makeAndRetractMoves() {
         const auto puzzle = shownValues(*window);
-        action(*window, "actionMakeMove")->trigger();
+        trigger(*window, "actionMakeMove");
         const auto first = shownValues(*window);
-        action(*window, "actionMakeMove")->trigger();
+        trigger(*window, "actionMakeMove");
         const auto second = shownValues(*window);
         QVERIFY(first != puzzle && second != first);
-        action(*window, "actionRetractMove")->trigger();
+        trigger(*window, "actionRetractMove");
         QCOMPARE(shownValues(*window), first);
-        action(*window, "actionRetractMove")->trigger();
+        trigger(*window, "actionRetractMove");
         QCOMPARE(shownValues(*window), puzzle);
-        action(*window, "actionMakeMove")->trigger();
+        trigger(*window, "actionMakeMove");
         QCOMPARE(shownValues(*window), first);
-        action(*window, "actionMakeMove")->trigger();
+        trigger(*window, "actionMakeMove");
         QCOMPARE(shownValues(*window), second);
     }
 
     void caretWalk() {
         MessageBoxAnswerer answerer;
-        action(*window, "actionNewGameUserEdit")->trigger();
+        trigger(*window, "actionNewGameUserEdit");
         QCOMPARE(window->levelText(), QString("difficulty: user edit"));
         eng::Board* board = window->currentBoard();
         QVERIFY(board->setValue(10, 1));
@@ -192,7 +186,7 @@ private slots:
         // A pencil caret needs the pencil marks shown, and keeps its mode.
         QTest::mouseClick(window->tileAt(30), Qt::RightButton);
         QCOMPARE(window->caret(), -1);
-        action(*window, "actionViewPencilMarks")->trigger();
+        trigger(*window, "actionViewPencilMarks");
         QTest::mouseClick(window->tileAt(30), Qt::RightButton);
         QCOMPARE(window->caret(), 30);
         QCOMPARE(window->tileAt(30)->caret(), Tile::PencilCaret);
@@ -209,7 +203,7 @@ private slots:
 
     void userEditFlow() {
         MessageBoxAnswerer answerer;
-        action(*window, "actionNewGameUserEdit")->trigger();
+        trigger(*window, "actionNewGameUserEdit");
         QCOMPARE(window->levelText(), QString("difficulty: user edit"));
         eng::Board* board = window->currentBoard();
         QCOMPARE(board->getLevel(), int(eng::lvlUserEdit));
@@ -231,12 +225,12 @@ private slots:
 
         // Make Move searches for a value; Retract takes it back.
         const auto typed = shownValues(*window);
-        action(*window, "actionMakeMove")->trigger();
+        trigger(*window, "actionMakeMove");
         const auto moved = shownValues(*window);
         int added = 0;
         for (int i = 0; i < 81; ++i) added += moved[i] != typed[i];
         QCOMPARE(added, 1);
-        action(*window, "actionRetractMove")->trigger();
+        trigger(*window, "actionRetractMove");
         QCOMPARE(shownValues(*window), typed);
         QCOMPARE(answerer.texts, QStringList{"Current game will be lost.\nContinue?"});
     }
@@ -299,14 +293,14 @@ private slots:
         const int empty = firstEmpty(*window);
         QTest::mouseClick(window->tileAt(empty), Qt::LeftButton);
         MessageBoxAnswerer answerer(QMessageBox::No);
-        action(*window, "actionNewGameHard")->trigger();
+        trigger(*window, "actionNewGameHard");
         QCOMPARE(answerer.texts, QStringList{"Current game will be lost.\nContinue?"});
         QCOMPARE(window->currentBoard(), board);
         QCOMPARE(window->caret(), empty);
         QCOMPARE(window->levelText(), QString("difficulty: Medium"));
         QCOMPARE(shownValues(*window), before);
         answerer.answer = QMessageBox::Yes;
-        action(*window, "actionNewGameHard")->trigger();
+        trigger(*window, "actionNewGameHard");
         QCOMPARE(window->levelText(), QString("difficulty: Hard"));
         QCOMPARE(window->caret(), -1);
         QCOMPARE(window->currentBoard()->getLevel(), int(eng::lvlHard));
@@ -315,14 +309,14 @@ private slots:
     void completingTheBoardCelebrates() {
         MessageBoxAnswerer answerer;
         std::srand(5);
-        action(*window, "actionNewGameVeryEasy")->trigger();
+        trigger(*window, "actionNewGameVeryEasy");
         eng::Board* board = window->currentBoard();
         int guard = 0;
         while (!board->isComplete() && guard++ < 81) {
             if (firstEmpty(*window) == -1) break;
             const int empty = firstEmpty(*window);
             if (board->historySize() % 2)
-                action(*window, "actionMakeMove")->trigger();
+                trigger(*window, "actionMakeMove");
             else
                 window->tileValueEdited(empty, board->solutionValue(empty));
         }
@@ -330,18 +324,18 @@ private slots:
         QCOMPARE(answerer.texts.last(), QString("Congratulations!"));
         QCOMPARE(window->highlight(), 0);
         // Make move on the complete board: no move, and the board is still complete.
-        action(*window, "actionMakeMove")->trigger();
+        trigger(*window, "actionMakeMove");
         QCOMPARE(answerer.texts.mid(answerer.texts.size() - 2),
                  (QStringList{"No more moves can be done.", "Congratulations!"}));
     }
 
     void viewOptions() {
         auto* toolbar = window->findChild<QToolBar*>("mainToolBar");
-        action(*window, "actionViewToolbar")->trigger();
+        trigger(*window, "actionViewToolbar");
         QVERIFY(toolbar->isHidden());
-        action(*window, "actionViewToolbar")->trigger();
+        trigger(*window, "actionViewToolbar");
         QVERIFY(toolbar->isVisible());
-        action(*window, "actionViewStatusbar")->trigger();
+        trigger(*window, "actionViewStatusbar");
         QVERIFY(window->statusBar()->isHidden());
         window->viewNewGameIcons(false);
         QVERIFY(!action(*window, "actionNewGameEasy")->isVisible());
@@ -355,10 +349,10 @@ private slots:
         const int empty = firstEmpty(*window);
         auto* label = window->tileAt(empty)->findChild<QLabel*>("lbl1");
         QVERIFY(label->isHidden());
-        action(*window, "actionViewPencilMarks")->trigger();
+        trigger(*window, "actionViewPencilMarks");
         QVERIFY(label->isVisible());
 
-        action(*window, "actionViewPencilMarksOptions")->trigger();
+        trigger(*window, "actionViewPencilMarksOptions");
         auto& dialog = window->pencilMarksDialog();
         QVERIFY(dialog.isVisible());
         QCOMPARE(dialog.frameGeometry().left(), window->frameGeometry().right() + 1);
@@ -368,8 +362,8 @@ private slots:
     void rulesFromTheDialog() {
         std::srand(77);
         MessageBoxAnswerer answerer;
-        action(*window, "actionNewGameHard")->trigger();
-        action(*window, "actionViewPencilMarks")->trigger();
+        trigger(*window, "actionNewGameHard");
+        trigger(*window, "actionViewPencilMarks");
         eng::Board* board = window->currentBoard();
         const size_t before = board->historySize();
         window->applyPencilmarksRule(eng::ruleHiddenSingles);
@@ -389,10 +383,10 @@ private slots:
         QTemporaryDir dir;
         const QString path = dir.filePath("game.sud");
         window->setFileNameProvider([&](SudokuWindow::FileRequest) { return path; });
-        action(*window, "actionMakeMove")->trigger();
-        action(*window, "actionMakeMove")->trigger();
+        trigger(*window, "actionMakeMove");
+        trigger(*window, "actionMakeMove");
         window->tilePotentialsEdited(firstEmpty(*window), 9);
-        action(*window, "actionRetractMove")->trigger();
+        trigger(*window, "actionRetractMove");
         const auto shown = shownValues(*window);
         const auto marks = candidates(window->currentBoard());
         {
@@ -401,19 +395,19 @@ private slots:
             QVERIFY(junk.open(QIODevice::WriteOnly));
             junk.write(QByteArray(200000, 'x'));
         }
-        action(*window, "actionSaveGame")->trigger();
+        trigger(*window, "actionSaveGame");
         QVERIFY(QFileInfo(path).size() > 1836);
         QVERIFY(QFileInfo(path).size() < 200000);
 
         MessageBoxAnswerer answerer;
-        action(*window, "actionNewGameEasy")->trigger();
-        action(*window, "actionOpenGame")->trigger();
+        trigger(*window, "actionNewGameEasy");
+        trigger(*window, "actionOpenGame");
         QVERIFY(answerer.texts.size() == 1);  // only the new-game question
         QCOMPARE(shownValues(*window), shown);
         eng::Board* board = window->currentBoard();
         QCOMPARE(candidates(board), marks);
         QCOMPARE(board->undoneSize(), 1u);
-        action(*window, "actionMakeMove")->trigger();  // the retracted move comes back first
+        trigger(*window, "actionMakeMove");  // the retracted move comes back first
         QCOMPARE(board->undoneSize(), 0u);
     }
 
@@ -431,7 +425,7 @@ private slots:
         // A real saved game, cut off in the middle.
         const QString full = dir.filePath("full.sud");
         window->setFileNameProvider([&](SudokuWindow::FileRequest) { return full; });
-        action(*window, "actionSaveGame")->trigger();
+        trigger(*window, "actionSaveGame");
         QFile saved(full);
         QVERIFY(saved.open(QIODevice::ReadOnly));
         const QByteArray truncated = saved.readAll().left(int(saved.size() / 2));
@@ -452,7 +446,7 @@ private slots:
             f.close();
             answerer.texts.clear();
             window->setFileNameProvider([&](SudokuWindow::FileRequest) { return path; });
-            action(*window, "actionOpenGame")->trigger();
+            trigger(*window, "actionOpenGame");
             if (c.texts.isEmpty())  // whatever the reader says first, the open fails
                 QCOMPARE(answerer.texts.last(), QString("Failed to load game"));
             else
@@ -462,22 +456,22 @@ private slots:
         }
         answerer.texts.clear();
         window->setFileNameProvider([&](SudokuWindow::FileRequest) { return dir.filePath("missing.sud"); });
-        action(*window, "actionOpenGame")->trigger();
+        trigger(*window, "actionOpenGame");
         QCOMPARE(answerer.texts, QStringList{"Failed to load game"});
         window->setFileNameProvider([&](SudokuWindow::FileRequest) { return QString(); });
-        action(*window, "actionOpenGame")->trigger();  // cancelled: nothing
+        trigger(*window, "actionOpenGame");  // cancelled: nothing
         QCOMPARE(answerer.texts.size(), 1);
         window->setFileNameProvider([&](SudokuWindow::FileRequest) { return dir.filePath("no/such/dir/x.sud"); });
-        action(*window, "actionSaveGame")->trigger();
+        trigger(*window, "actionSaveGame");
         QCOMPARE(answerer.texts.last(), QString("Failed to save game"));
         if (QFile::exists("/dev/full")) {  // a device is no place for a saved game
             answerer.texts.clear();
             window->setFileNameProvider([&](SudokuWindow::FileRequest) { return QString("/dev/full"); });
-            action(*window, "actionSaveGame")->trigger();
+            trigger(*window, "actionSaveGame");
             QCOMPARE(answerer.texts, QStringList{"Failed to save game"});
         }
         // The game is still playable.
-        action(*window, "actionMakeMove")->trigger();
+        trigger(*window, "actionMakeMove");
         QVERIFY(shownValues(*window) != shown);
     }
 
@@ -498,7 +492,7 @@ private slots:
             QFile f(path);
             return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
         };
-        action(*window, "actionSaveGame")->trigger();
+        trigger(*window, "actionSaveGame");
         const QByteArray first = contents();
         QVERIFY(first.size() > 1836);
         {
@@ -507,8 +501,8 @@ private slots:
             while (fill.write(QByteArray(4096, 'x')) == 4096) {}
             while (fill.write("x", 1) == 1) {}
         }
-        action(*window, "actionMakeMove")->trigger();  // a longer game to save
-        action(*window, "actionSaveGame")->trigger();
+        trigger(*window, "actionMakeMove");  // a longer game to save
+        trigger(*window, "actionSaveGame");
         QCOMPARE(answerer.texts, QStringList{"Failed to save game"});
         QCOMPARE(contents(), first);
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{"fill", "game.sud"}));
@@ -518,14 +512,14 @@ private slots:
         // While a refused value blinks, clicks and commands are ignored and leave
         // no trace; the digits and arrows typed meanwhile are carried out after.
         eng::Board* board = window->currentBoard();
-        const int a = firstEmpty(*window), b = firstEmpty(*window, a + 1);
+        const int a = firstEmpty(*window), b = firstEmpty(*window, a);
         QTest::mouseClick(window->tileAt(a), Qt::LeftButton);
         const size_t before = board->historySize();
         bool traceShown = true;
         QTimer::singleShot(0, window, [&] {
-            action(*window, "actionNewGameHard")->trigger();
-            action(*window, "actionOpenGame")->trigger();
-            action(*window, "actionMakeMove")->trigger();
+            trigger(*window, "actionNewGameHard");
+            trigger(*window, "actionOpenGame");
+            trigger(*window, "actionMakeMove");
             QTest::mouseClick(window->tileAt(b), Qt::LeftButton);
             for (int key : {Qt::Key_0 + board->solutionValue(a), int(Qt::Key_Right), Qt::Key_0 + board->solutionValue(b)})
                 QTest::keyClick(window->tileAt(a), Qt::Key(key));
@@ -543,9 +537,9 @@ private slots:
     // Last: closing the window asks the application to quit, which ends every
     // event loop that starts afterwards in this process.
     void closingClosesTheOptionsDialog() {
-        action(*window, "actionViewPencilMarksOptions")->trigger();
+        trigger(*window, "actionViewPencilMarksOptions");
         QVERIFY(window->pencilMarksDialog().isVisible());
-        action(*window, "actionExit")->trigger();
+        trigger(*window, "actionExit");
         QVERIFY(!window->pencilMarksDialog().isVisible());
         QVERIFY(!window->isVisible());
     }

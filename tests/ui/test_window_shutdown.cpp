@@ -18,7 +18,6 @@ SudokuWindow* shownWindow() {
     return window;
 }
 
-void trigger(SudokuWindow* w, const char* action) { w->findChild<QAction*>(action)->trigger(); }
 
 }  // namespace
 
@@ -38,15 +37,14 @@ private slots:
         SudokuWindow* window = shownWindow();
         eng::Board* board = window->currentBoard();
         const size_t history = board->historySize();
-        int i = 0;
-        while (window->tileAt(i)->hasValue()) ++i;
+        const int i = firstEmpty(*window);
         Tile* tile = window->tileAt(i);
         QTest::mouseClick(tile, Qt::LeftButton);
         QTimer::singleShot(300, window, [window, i] {
             // Input during the blink is ignored, then the window closes.
             QTest::mouseClick(window->tileAt(i == 0 ? 1 : 0), Qt::LeftButton);
-            trigger(window, "actionMakeMove");
-            trigger(window, "actionOpenGame");
+            trigger(*window, "actionMakeMove");
+            trigger(*window, "actionOpenGame");
             window->close();
         });
         QTest::keyClick(tile, Qt::Key_0 + board->solutionValue(i) % 9 + 1);
@@ -61,7 +59,7 @@ private slots:
         SudokuWindow* window = shownWindow();
         eng::Board* board = window->currentBoard();
         QTimer::singleShot(100, window, [window] { window->close(); });
-        trigger(window, "actionNewGameHard");
+        trigger(*window, "actionNewGameHard");
         QCOMPARE(window->currentBoard(), board);
         QCOMPARE(window->levelText(), QString("difficulty: Medium"));
         delete window;
@@ -70,7 +68,7 @@ private slots:
     void closeDuringCelebration() {
         SudokuWindow* window = shownWindow();
         MessageBoxAnswerer answerer;
-        trigger(window, "actionNewGameVeryEasy");
+        trigger(*window, "actionNewGameVeryEasy");
         eng::Board* board = window->currentBoard();
         QCOMPARE(board->getLevel(), int(eng::lvlVeryEasy));
         int last = -1;
@@ -84,8 +82,8 @@ private slots:
         QTimer::singleShot(400, window, [window] {
             // Clicks and commands during the sweep are ignored, then the window closes.
             QTest::mouseClick(window->tileAt(0), Qt::LeftButton);
-            trigger(window, "actionRetractMove");
-            trigger(window, "actionNewGameHard");
+            trigger(*window, "actionRetractMove");
+            trigger(*window, "actionNewGameHard");
             window->close();
         });
         QElapsedTimer timer;
