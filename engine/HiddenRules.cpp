@@ -44,20 +44,24 @@ const char* const kTupleNames[3] = {"row", "column", "square"};
 // The values that stand in at least one and at most n cells of a tuple, all
 // of them empty with two or more candidates: the only values a subset of n
 // cells can hide. Counts are kept per value as bit slices.
-Mask RuleSolver::hideableValues(int n, int t) const {
-    Mask atLeast[6] = {};  // atLeast[k]: the values in k or more open cells
-    Mask settled = 0;      // values of filled or settled cells
-    for (int i : kTuples.cells[t]) {
-        const Cell& cell = cells[i];
-        const Mask m = cell.mask();
-        if (cell.value() != 0 || countOf(m) == 1) {
-            settled |= m;
-            continue;
+Mask RuleSolver::hideableValues(int n, int t) {
+    Counts& c = counts[t];
+    if (c.at != changedAt[t]) {
+        c.at = changedAt[t];
+        for (Mask& m : c.atLeast) m = 0;
+        c.settled = 0;
+        for (int i : kTuples.cells[t]) {
+            const Cell& cell = cells[i];
+            const Mask m = cell.mask();
+            if (cell.value() != 0 || countOf(m) == 1) {
+                c.settled |= m;
+                continue;
+            }
+            for (int k = 5; k > 1; --k) c.atLeast[k] |= c.atLeast[k - 1] & m;
+            c.atLeast[1] |= m;
         }
-        for (int k = 5; k > 1; --k) atLeast[k] |= atLeast[k - 1] & m;
-        atLeast[1] |= m;
     }
-    return atLeast[1] & ~atLeast[n + 1] & ~settled;
+    return c.atLeast[1] & ~c.atLeast[n + 1] & ~c.settled;
 }
 
 bool RuleSolver::applyHidden(int n) {

@@ -13,24 +13,35 @@ constexpr int kColumns[3][3] = {{0, 3, 6}, {1, 4, 7}, {2, 5, 8}};
 
 }  // namespace
 
-// The values that stand, in tuple t, only in the segment at positions seg, and
-// in at least two of its cells. None when no cell of the segment is marked.
-Mask RuleSolver::lockedValues(int t, const int (&seg)[3]) const {
+// For each of the three segments segs[k] of tuple t: the values that stand
+// in t only in that segment, and in at least two of its cells. None for a
+// segment with no marked cell. The removals these lead to lie outside t, so
+// all three are found before any is applied.
+void RuleSolver::lockedValues(int t, const int (&segs)[3][3], Mask (&out)[3]) const {
     const int* tc = kTuples.cells[t];
-    const Cell &a = cells[tc[seg[0]]], &b = cells[tc[seg[1]]], &c = cells[tc[seg[2]]];
-    if (!a.isModified() && !b.isModified() && !c.isModified()) return 0;
-    Mask outside = 0;
-    for (int pos = 0; pos < 9; ++pos)
-        if (pos != seg[0] && pos != seg[1] && pos != seg[2]) outside |= cells[tc[pos]].mask();
-    const Mask twice = (a.mask() & b.mask()) | (a.mask() & c.mask()) | (b.mask() & c.mask());
-    return twice & ~outside;
+    Mask all[3], twice[3];
+    bool marked[3];
+    for (int k = 0; k < 3; ++k) {
+        const Cell &a = cells[tc[segs[k][0]]], &b = cells[tc[segs[k][1]]], &c = cells[tc[segs[k][2]]];
+        all[k] = a.mask() | b.mask() | c.mask();
+        twice[k] = (a.mask() & b.mask()) | (a.mask() & c.mask()) | (b.mask() & c.mask());
+        marked[k] = a.isModified() || b.isModified() || c.isModified();
+    }
+    for (int k = 0; k < 3; ++k)
+        out[k] = marked[k] ? twice[k] & ~(all[(k + 1) % 3] | all[(k + 2) % 3]) : 0;
 }
 
-bool RuleSolver::removeLocked(int t, const int (&seg)[3], int target) {
+bool RuleSolver::removeLocked(int t, const int (&segs)[3][3], int kind) {
     const int* tc = kTuples.cells[t];
+    Mask locked[3];
+    lockedValues(t, segs, locked);
     bool changed = false;
-    for (Mask m = lockedValues(t, seg); m; m &= m - 1)
-        changed = removeFromOthers(target, m & (~m + 1), tc[seg[0]], tc[seg[1]], tc[seg[2]]) || changed;
+    for (int k = 0; k < 3; ++k) {
+        const int* seg = segs[k];
+        const int target = kTuples.of[tc[seg[0]]][kind];
+        for (Mask m = locked[k]; m; m &= m - 1)
+            changed = removeFromOthers(target, m & (~m + 1), tc[seg[0]], tc[seg[1]], tc[seg[2]]) || changed;
+    }
     return changed;
 }
 
@@ -44,8 +55,7 @@ bool RuleSolver::applyLockedInLines(int firstLine, Check check) {
         for (const auto& seg : kLines) last = std::max(last, changedAt[kTuples.of[kTuples.cells[t][seg[0]]][2]]);
         if (last <= cleanAt[check][t]) continue;
         const unsigned before = clock;
-        for (const auto& seg : kLines)
-            changed = removeLocked(t, seg, kTuples.of[kTuples.cells[t][seg[0]]][2]) || changed;
+        changed = removeLocked(t, kLines, 2) || changed;
         if (clock == before) cleanAt[check][t] = clock;
     }
     return changed;
@@ -63,8 +73,8 @@ bool RuleSolver::applyLockedBySquares() {
             last = std::max({last, changedAt[kTuples.of[tc[k * 3]][0]], changedAt[kTuples.of[tc[k]][1]]});
         if (last <= cleanAt[checkLockedSquares][t]) continue;
         const unsigned before = clock;
-        for (const auto& seg : kLines) changed = removeLocked(t, seg, kTuples.of[tc[seg[0]]][0]) || changed;
-        for (const auto& seg : kColumns) changed = removeLocked(t, seg, kTuples.of[tc[seg[0]]][1]) || changed;
+        changed = removeLocked(t, kLines, 0) || changed;
+        changed = removeLocked(t, kColumns, 1) || changed;
         if (clock == before) cleanAt[checkLockedSquares][t] = clock;
     }
     return changed;

@@ -81,6 +81,7 @@ void RuleSolver::begin(BoardSnapshot& s) {
     std::fill(std::begin(changedAt), std::end(changedAt), 1u);
     std::memset(cleanAt, 0, sizeof cleanAt);
     for (Survey& s : surveys) s.at = 0;
+    for (Counts& c : counts) c.at = 0;
     pairCells[0] = pairCells[1] = 0;
     touched = 0;
     for (int i = 0; i < 81; ++i)

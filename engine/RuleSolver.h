@@ -79,6 +79,14 @@ private:
         unsigned where[9];
         unsigned open;
     } surveys[kTupleCount];
+    // Per tuple, as of its change stamp `at`: atLeast[k], the values in k or
+    // more open cells (empty, two or more candidates), and the values of the
+    // other cells.
+    struct Counts {
+        unsigned at;
+        Mask atLeast[6];
+        Mask settled;
+    } counts[kTupleCount];
 
     void begin(BoardSnapshot& snapshot);
     bool runPass();
@@ -107,11 +115,12 @@ private:
     bool applyTransitiveDoubles();
     bool applyLockedInLines(int firstLine, Check check);
     bool applyLockedBySquares();
-    Mask lockedValues(int tuple, const int (&segment)[3]) const;
-    bool removeLocked(int tuple, const int (&segment)[3], int target);
+    void lockedValues(int tuple, const int (&segments)[3][3], Mask (&out)[3]) const;
+    // `kind` names the tuples the removals go to: 0 rows, 1 columns, 2 squares.
+    bool removeLocked(int tuple, const int (&segments)[3][3], int kind);
     bool applyHidden(int n);
     bool hiddenIn(int n, int tuple);
-    Mask hideableValues(int n, int tuple) const;
+    Mask hideableValues(int n, int tuple);
     const Survey& survey(int tuple);
 };
 
