@@ -1,7 +1,6 @@
 // The cell widget: display states, input signals and the feedback animations.
 #include <QElapsedTimer>
 #include <QKeyEvent>
-#include <functional>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QtTest>
@@ -295,11 +294,8 @@ private slots:
         QTest::keyClick(tile, Qt::Key_9);
         QElapsedTimer timer;
         timer.start();
-        const QStringList steps = observeSteps([this] { tile->rejectValue(); }, [this] {
-            return QString("%1 %2").arg(valueLabel(*tile)->isVisible()).arg(tile->styleSheet() == Tile::styleRejectedValue);
-        }, "rejected_value");
+        tile->rejectValue();  // its steps on screen: the real-display test
         QVERIFY(timer.elapsed() >= 800);
-        QCOMPARE(steps, QStringList({"1 1", "0 1", "1 1", "0 1"}));  // the struck-through digit blinks
         QCOMPARE(valueLabel(*tile)->text(), QString("0"));
         QVERIFY(valueLabel(*tile)->isHidden());
         QCOMPARE(tile->styleSheet(), Tile::styleValueCaret);
@@ -321,13 +317,8 @@ private slots:
         QVERIFY(candidate(*tile, 4)->isHidden());
         QElapsedTimer timer;
         timer.start();
-        const QStringList steps = observeSteps([this] { tile->flashPotential(4); }, [this] {
-            QLabel* label = candidate(*tile, 4);
-            return QString(label->isVisible() ? "shown " : "hidden ") +
-                   (label->styleSheet() == Tile::styleFlashRed ? "red" : label->styleSheet() == Tile::styleFlashBlack ? "black" : "?");
-        }, "flash");
+        tile->flashPotential(4);
         QVERIFY(timer.elapsed() >= 800);
-        QCOMPARE(steps, QStringList({"shown red", "shown black", "shown red", "shown black"}));
         QVERIFY(candidate(*tile, 4)->isVisible());
         QCOMPARE(candidate(*tile, 4)->styleSheet(), Tile::styleFlashEnd);
         // Pencil marks switched off while it flashes: the candidate ends hidden.
@@ -368,29 +359,6 @@ private slots:
             flash ? tile->flashPotential(2) : tile->rejectValue();
             QVERIFY(!tile);
         }
-    }
-
-private:
-    // Runs an animation and records what the tile shows each time it lets
-    // events through, one entry per step; saves a picture of every step.
-    QStringList observeSteps(const std::function<void()>& animation, const std::function<QString()>& probe,
-                             const QString& pictureName) {
-        QStringList steps;
-        QTimer sampler;
-        sampler.setInterval(0);
-        QElapsedTimer clock;
-        clock.start();
-        qint64 lastStep = -1000;
-        connect(&sampler, &QTimer::timeout, this, [&] {
-            if (clock.elapsed() - lastStep < 100) return;  // already sampled this step
-            lastStep = clock.elapsed();
-            steps << probe();
-            saveTile(*tile, QString("%1_step%2").arg(pictureName).arg(steps.size()));
-        });
-        sampler.start();
-        animation();
-        sampler.stop();
-        return steps;
     }
 };
 
