@@ -68,6 +68,8 @@ TEST_F(GeneratedGame, ValuesAreCheckedAgainstTheSolution) {
     const int i = firstEmpty();
     const int v = board.solutionValue(i);
     const int wrong = v % 9 + 1;
+    EXPECT_EQ(board.cell(81), nullptr);
+    EXPECT_EQ(board.cell(-1), nullptr);
     for (int refused : {wrong, 0, 10}) EXPECT_FALSE(board.setValue(i, refused));
     ASSERT_EQ(observer.calls.size(), 3u);
     EXPECT_EQ(observer.calls[0].what, "valueRefused");

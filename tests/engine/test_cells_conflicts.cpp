@@ -146,6 +146,8 @@ TEST(Snapshots, CopiesAndEmptyCells) {
 TEST(Cells, ResetAndNarrowing) {
     Cell c;
     c.reset(0);
+    EXPECT_FALSE(c.addPotential(5));  // already there
+    EXPECT_FALSE(c.addPotential(10));
     EXPECT_EQ(c.row(), 0);
     EXPECT_EQ(c.column(), 0);
     EXPECT_EQ(c.square(), 0);

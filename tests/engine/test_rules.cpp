@@ -447,6 +447,12 @@ TEST(RuleHidden, SquaresTriplesAndQuads) {
     EXPECT_EQ(candidates(triple, 80), (std::list<int>{1, 2, 3}));
     EXPECT_EQ(candidates(triple, 73), (std::list<int>{4, 5, 6, 7, 8, 9}));
 
+    // Row 7: 1 to 4 only in cells 63, 65, 67, 69, which keep nothing else.
+    BoardSnapshot quad;
+    for (int v : {1, 2, 3, 4}) removeFrom(quad, v, {64, 66, 68, 70, 71});
+    EXPECT_TRUE(run(quad, {ruleHiddenQuads}));
+    for (int i : {63, 65, 67, 69}) EXPECT_EQ(candidates(quad, i), (std::list<int>{1, 2, 3, 4})) << i;
+
     // Quads: fewer than four open cells in a marked row find nothing.
     BoardSnapshot few;
     for (int c = 0; c < 6; ++c) place(few, c, c + 1);
@@ -462,10 +468,10 @@ TEST(RuleHidden, ConflictsAndTheirOrder) {
 
     // Column 0 is searched before row 1: both hold a cell with two hidden values.
     BoardSnapshot order;
-    for (int v : {3, 6}) removeFrom(order, v, {0, 18, 27, 36, 45, 54, 63, 72});
+    for (int v : {3, 9}) removeFrom(order, v, {0, 18, 27, 36, 45, 54, 63, 72});
     for (int v : {4, 5}) removeFrom(order, v, {9, 10, 11, 12, 13, 14, 15, 16});
     EXPECT_EQ(conflictText(order, {ruleHiddenSingles}),
-              "Conflict: On column 1: cannot distribute values: 3, 6 to cells: 1st  (too many values, to few "
+              "Conflict: On column 1: cannot distribute values: 3, 9 to cells: 1st  (too many values, to few "
               "cells)");
     // Row 0 is searched before column 0.
     for (int v : {4, 5}) removeFrom(order, v, {0, 1, 2, 3, 4, 6, 7, 8});

@@ -161,6 +161,7 @@ TEST_F(SavedGames, RefusedFilesLeaveTheGameUntouched) {
         bad.push_back({good.substr(0, cut), -1});
     const size_t history = 26 + 1790, cell7 = history + 4 + 22 * 7;
     const std::pair<size_t, int> changes[] = {
+        {16, -1}, {20, -1}, {30, 0},  // search counters; a solution with an empty cell
         {history, 2000000000}, {history, -5},  // position counts
         {cell7, 8}, {cell7 + 4, 12}, {cell7 + 8, 4},  // history cell 7: index, value, origin
         {history + 4 + 1790 * 2 - 8, 81},  // guess of the newest position
