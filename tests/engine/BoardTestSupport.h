@@ -15,11 +15,6 @@ namespace eng {
 class BoardTestAccess {
 public:
     static eng_priv::MasterSolution& solution(Board& b) { return b.masterSolution; }
-    static eng_priv::BoardSnapshot& current(Board& b) { return *b.history.back(); }
-    static eng_priv::BoardSnapshot& position(Board& b, size_t i) { return *b.history.at(i); }
-    static eng_priv::Cell* chooseCell(Board& b, const std::vector<eng_priv::Cell*>& cells, int phase) {
-        return b.chooseCell(cells, phase);
-    }
 };
 
 }  // namespace eng
