@@ -87,15 +87,3 @@ TEST(Generation, CompletedUserEditRepeatedAndUnknownLevels) {
     EXPECT_FALSE(board.solution().forbidden);
     expectGivensAgreeWithSolution(board);
 }
-
-TEST(Generation, SameSeedGivesSameGame) {
-    std::vector<int> games[3];
-    for (unsigned k = 0; k < 3; ++k) {
-        testing_support::seedRandom(4242 + k / 2);
-        Board board(nullptr);
-        ASSERT_TRUE(board.generate(lvlMedium));
-        games[k] = testing_support::values(board);
-    }
-    EXPECT_EQ(games[0], games[1]);
-    EXPECT_NE(games[2], games[0]);
-}
