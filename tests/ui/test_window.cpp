@@ -438,32 +438,6 @@ private slots:
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{"fill", "game.sud"}));
     }
 
-    void inputDuringBusyCommands() {
-        // While a refused value blinks, clicks and commands are ignored and leave
-        // no trace; the digits and arrows typed meanwhile are carried out after.
-        eng::Board* board = window->currentBoard();
-        const int a = firstEmpty(*window), b = firstEmpty(*window, a);
-        QTest::mouseClick(window->tileAt(a), Qt::LeftButton);
-        const size_t before = board->historySize();
-        bool traceShown = true;
-        QTimer::singleShot(0, window, [&] {
-            trigger(*window, "actionNewGameHard");
-            trigger(*window, "actionOpenGame");
-            trigger(*window, "actionMakeMove");
-            QTest::mouseClick(window->tileAt(b), Qt::LeftButton);
-            for (int key : {Qt::Key_0 + board->solutionValue(a), int(Qt::Key_Right), Qt::Key_0 + board->solutionValue(b)})
-                QTest::keyClick(window->tileAt(a), Qt::Key(key));
-            window->applyPencilmarksRule(eng::ruleHiddenSingles);
-            traceShown = window->tileAt(b)->hasValue() || window->caret() != a;
-        });
-        QTest::keyClick(window->tileAt(a), Qt::Key_0 + board->solutionValue(a) % 9 + 1);
-        QVERIFY(!traceShown);
-        QTRY_COMPARE(board->cell(b)->value(), board->solutionValue(b));
-        QCOMPARE(board->cell(a)->value(), board->solutionValue(a));
-        QCOMPARE(window->currentBoard(), board);
-        QTRY_VERIFY(!window->isBusy() && board->historySize() >= before + 2);
-    }
-
     // Last: closing the window asks the application to quit, which ends every
     // event loop that starts afterwards in this process.
     void closingClosesTheOptionsDialog() {
