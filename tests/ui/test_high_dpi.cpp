@@ -58,12 +58,8 @@ QStringList clipped(QWidget* top) {
     QStringList out;
     auto check = [&](QWidget* w, const QString& text, QSize needed, QSize room) {
         if (needed.width() > room.width() || needed.height() > room.height())
-            out << QString("%1: %2 (%3x%4 > %5x%6)")
-                       .arg(w->objectName(), text.left(60))
-                       .arg(needed.width())
-                       .arg(needed.height())
-                       .arg(room.width())
-                       .arg(room.height());
+            out << QString::asprintf("%s: %s (%dx%d > %dx%d)", qPrintable(w->objectName()), qPrintable(text.left(60)),
+                                     needed.width(), needed.height(), room.width(), room.height());
     };
     for (QWidget* w : top->findChildren<QWidget*>()) {
         if (!w->isVisibleTo(top)) continue;
