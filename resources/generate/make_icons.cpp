@@ -37,14 +37,19 @@ void save(const QString& dir, const QString& name, const std::function<void(QPai
     draw(dir + "/" + name + "@2x.png", 96, picture);
 }
 
-// A blue board with a 3x3 grid; `filled` of its nine cells carry a digit dot.
-void levelIcon(QPainter& p, int filled) {
+// The rounded blue tile behind the level icons and the application icon.
+void blueTile(QPainter& p, const QRectF& rect, qreal radius) {
     QLinearGradient g(0, 0, 0, 48);
     g.setColorAt(0, kBlue.lighter(120));
     g.setColorAt(1, kBlueDark);
     p.setPen(QPen(kBlueDark.darker(130), 1.5));
     p.setBrush(g);
-    p.drawRoundedRect(QRectF(3, 3, 42, 42), 7, 7);
+    p.drawRoundedRect(rect, radius, radius);
+}
+
+// A blue board with a 3x3 grid; `filled` of its nine cells carry a digit dot.
+void levelIcon(QPainter& p, int filled) {
+    blueTile(p, QRectF(3, 3, 42, 42), 7);
     p.setBrush(Qt::white);
     p.setPen(Qt::NoPen);
     static const int order[9] = {4, 0, 8, 2, 6, 1, 7, 3, 5};
@@ -182,12 +187,7 @@ void aboutPicture(QPainter& p, const QColor& light, const QColor& dark) {
 // The application icon: one square of the board with a few digits, on the
 // blue tile of the level icons.
 void appIcon(QPainter& p) {
-    QLinearGradient g(0, 0, 0, 48);
-    g.setColorAt(0, kBlue.lighter(120));
-    g.setColorAt(1, kBlueDark);
-    p.setPen(QPen(kBlueDark.darker(130), 1.5));
-    p.setBrush(g);
-    p.drawRoundedRect(QRectF(2, 2, 44, 44), 8, 8);
+    blueTile(p, QRectF(2, 2, 44, 44), 8);
     const QRectF board(7, 7, 34, 34);
     p.setPen(Qt::NoPen);
     p.setBrush(Qt::white);
