@@ -15,11 +15,6 @@ namespace eng {
 class BoardTestAccess {
 public:
     static eng_priv::MasterSolution& solution(Board& b) { return b.masterSolution; }
-    static eng_priv::BoardSnapshot& current(Board& b) { return *b.history.back(); }
-    static eng_priv::BoardSnapshot& position(Board& b, size_t i) { return *b.history.at(i); }
-    static eng_priv::Cell* chooseCell(Board& b, const std::vector<eng_priv::Cell*>& cells, int phase) {
-        return b.chooseCell(cells, phase);
-    }
 };
 
 }  // namespace eng
@@ -76,6 +71,12 @@ inline std::vector<int> values(const eng::Board& b) {
     std::vector<int> out;
     for (int i = 0; i < 81; ++i) out.push_back(b.cell(i) ? b.cell(i)->value() : -1);
     return out;
+}
+
+inline int candidateCount(const eng::CellInfo* c) {
+    int n = 0;
+    for (int v = 1; v <= 9; ++v) n += c->isPotential(v);
+    return n;
 }
 
 inline int filledCount(const eng::Board& b) {

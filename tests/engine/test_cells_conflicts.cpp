@@ -25,29 +25,41 @@ int cellConflictKind(F f) {
 
 }  // namespace
 
-TEST(Conflicts, CellDescriptions) {
-    ExCellConflict c(0, 12, 5);
-    EXPECT_STREQ(c.describe(), "Conflict at cell index=12value=5details: Cannot set this value. It's in conflict");
-    EXPECT_EQ(std::string(c.describe()), c.message);  // describing twice keeps one copy
-    EXPECT_STREQ(ExCellConflict(4, -1, 0).describe(),
-                 "Conflict at cell index=-1value=0details: Too many guesses goes in conflicts. Aborting.");
-    EXPECT_STREQ(ExCellConflict(7, 3, 1).describe(),
-                 "Conflict at cell index=3value=1details: Unknown conflict type. Please report this error.");
-    EXPECT_STREQ(ExCellConflict(2, 0, 9).describe(),
-                 "Conflict at cell index=0value=9details: Cannot remove an inexistent potential value.");
-}
-
-TEST(Conflicts, TupleDescriptions) {
-    EXPECT_STREQ(ExTupleConflict(1, "row", 2, {4, 7}, {1, 3, 5}).describe(),
-                 "Conflict: On row 3: cannot distribute values: 4, 7 to cells: 1st, 3rd, 5th  (too many cells, "
-                 "to few values)");
-    EXPECT_STREQ(ExTupleConflict(0, "square", 8, {6}, {0}).describe(),
-                 "Conflict: On square 9: cannot distribute values: 6 to cells: 0th  (too many values, to few cells)");
-    EXPECT_STREQ(ExTupleConflict(0, "column", 0, {1, 2}, {2, 4, 8}).describe(),
-                 "Conflict: On column 1: cannot distribute values: 1, 2 to cells: 2nd, 4th, 8th  (too many values, "
-                 "to few cells)");
-    EXPECT_STREQ(ExTupleConflict(2, "row", 0, {1}, {1}).describe(),
-                 "Conflict: Unknown conflict type on tuple. Please report this error.");
+TEST(Conflicts, Descriptions) {
+    const std::string cell = "Conflict at cell index=", tuple = "Conflict: On ";
+    const std::string unknown = "details: Unknown conflict type. Please report this error.";
+    const std::pair<ExCellConflict, std::string> cells[] = {
+        {{0, 12, 5}, cell + "12value=5details: Cannot set this value. It's in conflict"},
+        {{1, 80, 3}, cell + "80value=3details: Cannot set this potential value. It's in conflict"},
+        {{2, 0, 9}, cell + "0value=9details: Cannot remove an inexistent potential value."},
+        {{3, 40, 0}, cell + "40value=0details: All potential values were removed from this cell. There is no solution."},
+        {{4, -1, 0}, cell + "-1value=0details: Too many guesses goes in conflicts. Aborting."},
+        {{7, 3, 1}, cell + "3value=1" + unknown},
+        {{-1, 0, 0}, cell + "0value=0" + unknown}};
+    for (auto [conflict, text] : cells) {
+        EXPECT_EQ(conflict.describe(), text);
+        EXPECT_EQ(conflict.describe(), text);  // describing twice keeps one copy
+        EXPECT_EQ(conflict.message, text);
+    }
+    const std::string unknownTuple = "Conflict: Unknown conflict type on tuple. Please report this error.";
+    const std::pair<ExTupleConflict, std::string> tuples[] = {
+        {{1, "row", 2, {4, 7}, {1, 3, 5}},
+         tuple + "row 3: cannot distribute values: 4, 7 to cells: 1st, 3rd, 5th  (too many cells, to few values)"},
+        {{1, "column", 8, {1, 2, 3}, {0, 1, 2, 3, 4, 8}},
+         tuple + "column 9: cannot distribute values: 1, 2, 3 to cells: 0th, 1st, 2nd, 3rd, 4th, 8th  "
+                 "(too many cells, to few values)"},
+        {{0, "square", 8, {6}, {0}},
+         tuple + "square 9: cannot distribute values: 6 to cells: 0th  (too many values, to few cells)"},
+        {{0, "column", 0, {1, 2}, {2, 4, 8}},
+         tuple + "column 1: cannot distribute values: 1, 2 to cells: 2nd, 4th, 8th  (too many values, to few cells)"},
+        {{0, "row", 4, {}, {}}, tuple + "row 5: cannot distribute values:  to cells:   (too many values, to few cells)"},
+        {{2, "row", 0, {1}, {1}}, unknownTuple},
+        {{-3, "square", 1, {}, {}}, unknownTuple}};
+    for (auto [conflict, text] : tuples) {
+        EXPECT_EQ(conflict.describe(), text);
+        EXPECT_EQ(conflict.describe(), text);
+        EXPECT_EQ(conflict.message, text);
+    }
 }
 
 TEST(Cells, IndexDerivesRowColumnSquare) {
@@ -131,34 +143,11 @@ TEST(Snapshots, CopiesAndEmptyCells) {
     EXPECT_TRUE(empty.empty());
 }
 
-TEST(Conflicts, RemainingTextsAndRepeatedDescriptions) {
-    ExCellConflict one(1, 80, 3);
-    const std::string first = one.describe();
-    EXPECT_EQ(first, "Conflict at cell index=80value=3details: Cannot set this potential value. It's in conflict");
-    EXPECT_EQ(std::string(one.describe()), first);
-    EXPECT_EQ(one.message, first);
-    EXPECT_STREQ(ExCellConflict(3, 40, 0).describe(),
-                 "Conflict at cell index=40value=0details: All potential values were removed from this cell. There "
-                 "is no solution.");
-    EXPECT_STREQ(ExCellConflict(-1, 0, 0).describe(),
-                 "Conflict at cell index=0value=0details: Unknown conflict type. Please report this error.");
-
-    ExTupleConflict t(1, "column", 8, {1, 2, 3}, {0, 1, 2, 3, 4, 8});
-    const std::string tupleFirst = t.describe();
-    EXPECT_EQ(tupleFirst,
-              "Conflict: On column 9: cannot distribute values: 1, 2, 3 to cells: 0th, 1st, 2nd, 3rd, 4th, 8th  "
-              "(too many cells, to few values)");
-    EXPECT_EQ(std::string(t.describe()), tupleFirst);
-    EXPECT_EQ(t.message, tupleFirst);
-    EXPECT_STREQ(ExTupleConflict(0, "row", 4, {}, {}).describe(),
-                 "Conflict: On row 5: cannot distribute values:  to cells:   (too many values, to few cells)");
-    EXPECT_STREQ(ExTupleConflict(-3, "square", 1, {}, {}).describe(),
-                 "Conflict: Unknown conflict type on tuple. Please report this error.");
-}
-
 TEST(Cells, ResetAndNarrowing) {
     Cell c;
     c.reset(0);
+    EXPECT_FALSE(c.addPotential(5));  // already there
+    EXPECT_FALSE(c.addPotential(10));
     EXPECT_EQ(c.row(), 0);
     EXPECT_EQ(c.column(), 0);
     EXPECT_EQ(c.square(), 0);

@@ -57,60 +57,33 @@ TEST_P(GradedLevels, PuzzlesAreGradedAndConsistent) {
 INSTANTIATE_TEST_SUITE_P(Levels, GradedLevels,
                          ::testing::Values(int(lvlVeryEasy), int(lvlEasy), int(lvlMedium), int(lvlHard)));
 
-TEST(Generation, CompletedGameIsCompleteWithGivensOnly) {
+TEST(Generation, CompletedUserEditRepeatedAndUnknownLevels) {
     testing_support::seedRandom(5);
-    Board board(nullptr);
+    RecordingObserver observer;
+    Board board(&observer);
+    EXPECT_FALSE(board.generate(6));
+    EXPECT_FALSE(board.generate(-1));
+    EXPECT_EQ(board.historySize(), 0u);
     ASSERT_TRUE(board.generate(lvlCompleted));
     EXPECT_TRUE(board.isComplete());
     expectGivensAgreeWithSolution(board);
     EXPECT_EQ(testing_support::filledCount(board), 81);
-}
 
-TEST(Generation, SameSeedGivesSameGame) {
-    std::vector<int> first, second;
-    for (auto* out : {&first, &second}) {
-        testing_support::seedRandom(4242);
-        Board board(nullptr);
-        ASSERT_TRUE(board.generate(lvlMedium));
-        *out = testing_support::values(board);
-    }
-    EXPECT_EQ(first, second);
-    testing_support::seedRandom(4243);
-    Board other(nullptr);
-    ASSERT_TRUE(other.generate(lvlMedium));
-    EXPECT_NE(testing_support::values(other), first);
-}
-
-TEST(Generation, UserEditAlwaysSucceedsEmpty) {
-    RecordingObserver observer;
-    Board board(&observer);
-    ASSERT_TRUE(board.generate(lvlUserEdit));
-    EXPECT_EQ(board.historySize(), 1u);
-    EXPECT_TRUE(board.solution().forbidden);
-    EXPECT_EQ(board.getPhase(), 3);
-    EXPECT_EQ(observer.count("cellsChanged"), 1);
-    EXPECT_EQ(testing_support::filledCount(board), 0);
-}
-
-TEST(Generation, NewGameReplacesTheOldOneEntirely) {
-    testing_support::seedRandom(8);
-    Board board(nullptr);
+    // A new game replaces the old one entirely, undone moves included.
     ASSERT_TRUE(board.generate(lvlEasy));
     ASSERT_TRUE(board.makeMove());
     ASSERT_TRUE(board.retract());
     EXPECT_EQ(board.undoneSize(), 1u);
-    ASSERT_TRUE(board.generate(lvlUserEdit));
+    observer.clear();
+    ASSERT_TRUE(board.generate(lvlUserEdit));  // always succeeds, empty
     EXPECT_EQ(board.undoneSize(), 0u);
     EXPECT_EQ(board.historySize(), 1u);
+    EXPECT_TRUE(board.solution().forbidden);
     EXPECT_EQ(board.solutionValue(0), 0);
+    EXPECT_EQ(board.getPhase(), 3);
+    EXPECT_EQ(observer.count("cellsChanged"), 1);
+    EXPECT_EQ(testing_support::filledCount(board), 0);
     ASSERT_TRUE(board.generate(lvlHard));
     EXPECT_FALSE(board.solution().forbidden);
     expectGivensAgreeWithSolution(board);
-}
-
-TEST(Generation, UnknownLevelIsRefused) {
-    Board board(nullptr);
-    EXPECT_FALSE(board.generate(6));
-    EXPECT_FALSE(board.generate(-1));
-    EXPECT_EQ(board.historySize(), 0u);
 }

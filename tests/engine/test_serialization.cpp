@@ -64,7 +64,7 @@ struct SavedGames : ::testing::Test {
 
 }  // namespace
 
-TEST(Primitives, Encodings) {
+TEST(Primitives, EncodingsAndLimits) {
     std::ostringstream out(std::ios::binary);
     eng_priv::writeValue(out, StreamValue(2));
     eng_priv::writeValue(out, StreamValue(-1));
@@ -75,38 +75,27 @@ TEST(Primitives, Encodings) {
     std::istringstream in(std::string("\x07\x05\x00\x00\x00" "ab" "\x00" "cd", 10), std::ios::binary);
     bool flag = false;
     std::string text;
-    StreamTarget boolTarget(&flag);
-    StreamTarget stringTarget(&text);
+    StreamTarget boolTarget(&flag), stringTarget(&text);
     eng_priv::readValue(in, boolTarget);
     eng_priv::readValue(in, stringTarget);
-    EXPECT_TRUE(flag);  // any nonzero byte
+    EXPECT_TRUE(flag);      // any nonzero byte
     EXPECT_EQ(text, "ab");  // an embedded zero ends the string
-}
 
-TEST(Primitives, StringLengthLimit) {
-    for (int length : {1000, 1001}) {
+    for (int length : {1000, 1001}) {  // the longest string accepted, and one more
         std::string bytes(4, '\0');
         putInt(bytes, 0, length);
-        bytes += std::string(static_cast<size_t>(length), 'x');
-        std::istringstream in(bytes, std::ios::binary);
-        std::string text;
-        StreamTarget target(&text);
+        std::istringstream longer(bytes + std::string(static_cast<size_t>(length), 'x'), std::ios::binary);
         if (length == 1000) {
-            eng_priv::readValue(in, target);
+            eng_priv::readValue(longer, stringTarget);
             EXPECT_EQ(text.size(), 1000u);
         } else {
-            try {
-                eng_priv::readValue(in, target);
-                FAIL() << "no exception";
-            } catch (const std::runtime_error& e) {
-                EXPECT_STREQ(e.what(), "string too long in .sum file");
-            }
+            EXPECT_THROW(eng_priv::readValue(longer, stringTarget), std::runtime_error);
         }
     }
 }
 
-TEST(Layout, CellRecordIsTwentyTwoBytes) {
-    eng_priv::Cell cell;
+TEST_F(SavedGames, Layout) {
+    eng_priv::Cell cell;  // a cell record is 22 bytes
     cell.reset(40);
     cell.setSinglePotential(5);
     cell.setValue(5, 1);
@@ -115,29 +104,23 @@ TEST(Layout, CellRecordIsTwentyTwoBytes) {
     EXPECT_EQ(out.str(), std::string("\x28\x00\x00\x00\x05\x00\x00\x00\x01\x00\x00\x00"
                                      "\x00\x00\x00\x00\x01\x00\x00\x00\x00\x01",
                                      22));
-}
 
-TEST_F(SavedGames, GeneratedGameLayout) {
     ASSERT_TRUE(board.generate(lvlMedium));
-    const std::string bytes = bytesOf(board);
+    std::string bytes = bytesOf(board);
     ASSERT_EQ(bytes.size(), 46u + 1790u * 3);  // solution + two positions
     EXPECT_EQ(bytes.substr(0, 16), header(2));
     EXPECT_EQ(intAt(bytes, 16), board.solution().triedValueCount);
     EXPECT_EQ(intAt(bytes, 20), board.solution().guessCount);
-    EXPECT_EQ(bytes[24], 0);  // not forbidden
-    EXPECT_EQ(bytes[25], 1);  // has a solution
+    EXPECT_EQ(bytes.substr(24, 2), std::string("\0\1", 2));  // not forbidden, has a solution
     EXPECT_EQ(intAt(bytes, 26 + 1790), 2);  // history count after the solution
     EXPECT_EQ(intAt(bytes, bytes.size() - 12), lvlMedium);
     EXPECT_EQ(intAt(bytes, bytes.size() - 8), 3);
     EXPECT_EQ(intAt(bytes, bytes.size() - 4), board.getAttempt());
-}
 
-TEST_F(SavedGames, UserEditLayout) {
     ASSERT_TRUE(board.generate(lvlUserEdit));
-    const std::string bytes = bytesOf(board);
+    bytes = bytesOf(board);
     ASSERT_EQ(bytes.size(), 1836u);
-    EXPECT_EQ(bytes[24], 1);
-    EXPECT_EQ(bytes[25], 0);
+    EXPECT_EQ(bytes.substr(24, 2), std::string("\1\0", 2));
     EXPECT_EQ(intAt(bytes, 26), 1);
 }
 
@@ -163,79 +146,47 @@ TEST_F(SavedGames, RoundTripsAreByteIdenticalAndRetractWalksTheSamePositions) {
     }
 }
 
-TEST_F(SavedGames, WrongTagAndOtherVersionsLeaveTheBoardUntouched) {
-    ASSERT_TRUE(board.generate(lvlEasy));
-    const std::string before = bytesOf(board);
-    std::string saved = before;
-
-    for (int version : {1, 3}) {
-        putInt(saved, 12, version);
-        observer.clear();
-        EXPECT_FALSE(load(board, saved));
-        ASSERT_EQ(observer.calls.size(), 1u);
-        EXPECT_EQ(observer.calls[0].what, "loadFailed");
-        EXPECT_EQ(observer.calls[0].a, 2);
-        EXPECT_EQ(observer.calls[0].b, version);
-        EXPECT_EQ(bytesOf(board), before);
-    }
-    for (const std::string& other : {std::string("\x08\x00\x00\x00versioN=\x02\x00\x00\x00", 16), std::string()}) {
-        observer.clear();
-        EXPECT_FALSE(load(board, other));
-        ASSERT_EQ(observer.calls.size(), 1u);
-        EXPECT_EQ(observer.calls[0].b, -1);
-        EXPECT_EQ(bytesOf(board), before);
-    }
-    // A text file starts with a "length" far above the limit.
-    EXPECT_THROW(load(board, "This is not a saved game at all"), std::runtime_error);
-    EXPECT_EQ(bytesOf(board), before);
-}
-
-TEST_F(SavedGames, CorruptFilesAreRefusedWithoutChangingTheGame) {
+TEST_F(SavedGames, RefusedFilesLeaveTheGameUntouched) {
     ASSERT_TRUE(board.generate(lvlEasy));
     board.makeMove();
     const std::string good = bytesOf(board);
-    std::vector<std::string> bad;
+    // Each file with the version the report gives: -1 for a file that is no saved game.
+    std::vector<std::pair<std::string, int>> bad{{std::string("\x08\x00\x00\x00versioN=\x02\x00\x00\x00", 16), -1},
+                                                 {std::string(), -1}};
+    for (int version : {1, 3}) {
+        bad.push_back({good, version});
+        putInt(bad.back().first, 12, version);
+    }
     for (size_t cut : {17u, 26u, 500u, 1816u, 3000u, static_cast<unsigned>(good.size() - 1)})
-        bad.push_back(good.substr(0, cut));
-    std::string hugeCount = good;
-    putInt(hugeCount, 26 + 1790, 2000000000);
-    bad.push_back(hugeCount);
-    std::string negativeCount = good;
-    putInt(negativeCount, 26 + 1790, -5);
-    bad.push_back(negativeCount);
-    std::string wrongIndex = good;
-    putInt(wrongIndex, 26 + 1790 + 4 + 22 * 7, 8);  // history cell 7 claims index 8
-    bad.push_back(wrongIndex);
-    std::string badValue = good;
-    putInt(badValue, 26 + 1790 + 4 + 22 * 7 + 4, 12);
-    bad.push_back(badValue);
-    std::string badOrigin = good;
-    putInt(badOrigin, 26 + 1790 + 4 + 22 * 7 + 8, 4);
-    bad.push_back(badOrigin);
-    std::string noCandidates = good;
-    for (int k = 0; k < 9; ++k) noCandidates[26 + 1790 + 4 + 22 * 7 + 12 + k] = 0;
-    bad.push_back(noCandidates);
-    std::string badGuess = good;
-    putInt(badGuess, 26 + 1790 + 4 + 1790 * 2 - 8, 81);  // guess of the newest position
-    bad.push_back(badGuess);
-    std::string badLevel = good;
-    putInt(badLevel, good.size() - 12, 6);
-    bad.push_back(badLevel);
-    std::string userEditWithSolution = good;
-    putInt(userEditWithSolution, good.size() - 12, lvlUserEdit);
-    bad.push_back(userEditWithSolution);
-    std::string forbiddenGenerated = good;
-    forbiddenGenerated[24] = 1;
-    bad.push_back(forbiddenGenerated);
+        bad.push_back({good.substr(0, cut), -1});
+    const size_t history = 26 + 1790, cell7 = history + 4 + 22 * 7;
+    const std::pair<size_t, int> changes[] = {
+        {16, -1}, {20, -1}, {30, 0},  // search counters; a solution with an empty cell
+        {history, 2000000000}, {history, -5},  // position counts
+        {cell7, 8}, {cell7 + 4, 12}, {cell7 + 8, 4},  // history cell 7: index, value, origin
+        {history + 4 + 1790 * 2 - 8, 81},  // guess of the newest position
+        {good.size() - 12, 6}, {good.size() - 12, lvlUserEdit}};  // no level; User Edit with a solution
+    for (auto [offset, value] : changes) {
+        bad.push_back({good, -1});
+        putInt(bad.back().first, offset, value);
+    }
+    bad.push_back({good, -1});
+    for (int k = 0; k < 9; ++k) bad.back().first[cell7 + 12 + k] = 0;  // no candidates
+    bad.push_back({good, -1});
+    bad.back().first[24] = 1;  // a generated game marked forbidden
 
     for (size_t k = 0; k < bad.size(); ++k) {
         observer.clear();
-        EXPECT_FALSE(load(board, bad[k])) << "file " << k;
+        EXPECT_FALSE(load(board, bad[k].first)) << "file " << k;
         ASSERT_EQ(observer.calls.size(), 1u) << "file " << k;
         EXPECT_EQ(observer.calls[0].what, "loadFailed");
-        EXPECT_EQ(observer.calls[0].b, -1) << "file " << k;
+        EXPECT_EQ(observer.calls[0].a, 2);
+        EXPECT_EQ(observer.calls[0].b, bad[k].second) << "file " << k;
         EXPECT_EQ(bytesOf(board), good) << "file " << k;
     }
+    // A text file starts with a "length" far above the limit.
+    EXPECT_THROW(load(board, "This is not a saved game at all"), std::runtime_error);
+    EXPECT_EQ(bytesOf(board), good);
 }
 
 TEST_F(SavedGames, PhaseThreeWithoutHistoryIsRefusedOtherPhasesLoadSilently) {

@@ -96,12 +96,6 @@ class DisplayTest : public QObject {
 
     SudokuWindow* window = nullptr;
 
-    int emptyAfter(int from) {
-        for (int i = from + 1; i < 81; ++i)
-            if (!window->tileAt(i)->hasValue()) return i;
-        return -1;
-    }
-
     // Every tile pink exactly when it holds the highlighted value, on screen too.
     void checkHighlight(const char* when) {
         QTRY_VERIFY_WITH_TIMEOUT(!window->isBusy(), 10000);
@@ -160,7 +154,7 @@ private slots:
     // burst of keys typed by the player meanwhile all reaches the engine.
     void blinkAndTypingDuringIt() {
         eng::Board* board = window->currentBoard();
-        const int a = emptyAfter(-1), b = emptyAfter(a), c = emptyAfter(b);
+        const int a = firstEmpty(*window), b = firstEmpty(*window, a), c = firstEmpty(*window, b);
         QTest::mouseClick(window->tileAt(a), Qt::LeftButton);
         QCOMPARE(window->caret(), a);
         window->activateWindow();
@@ -187,8 +181,8 @@ private slots:
     // A refused candidate flashes red, black, red, black on screen.
     void flashSteps() {
         eng::Board* board = window->currentBoard();
-        window->findChild<QAction*>("actionViewPencilMarks")->trigger();
-        const int a = emptyAfter(-1);
+        trigger(*window, "actionViewPencilMarks");
+        const int a = firstEmpty(*window);
         QTest::mouseClick(window->tileAt(a), Qt::RightButton);
         QCOMPARE(window->caret(), a);
         const int v = board->solutionValue(a);
@@ -201,7 +195,7 @@ private slots:
         QTest::keyClick(window->tileAt(a), Qt::Key_0 + v);
         const QString runs = sampler.stop();
         QVERIFY2(runs.contains("RBRB"), qPrintable(runs));
-        window->findChild<QAction*>("actionViewPencilMarks")->trigger();
+        trigger(*window, "actionViewPencilMarks");
         QTest::mouseClick(window->tileAt(a), Qt::RightButton);
     }
 
@@ -217,14 +211,14 @@ private slots:
         for (int i = 0; i < 81; ++i)
             if (window->tileAt(i)->value() == v) held << i;
         MessageBoxAnswerer answerer;
-        window->findChild<QAction*>("actionNewGameEasy")->trigger();
+        trigger(*window, "actionNewGameEasy");
         checkHighlight("new game");
         int nowEmpty = -1;
         for (int i : held)
             if (!window->tileAt(i)->hasValue()) nowEmpty = i;
         if (nowEmpty >= 0) {
             QTest::mouseClick(window->tileAt(nowEmpty), Qt::LeftButton);
-            QTest::mouseClick(window->tileAt(emptyAfter(nowEmpty) >= 0 ? emptyAfter(nowEmpty) : emptyAfter(-1)),
+            QTest::mouseClick(window->tileAt(firstEmpty(*window, nowEmpty) >= 0 ? firstEmpty(*window, nowEmpty) : firstEmpty(*window)),
                               Qt::LeftButton);
             checkHighlight("click after new game");
         }

@@ -58,12 +58,8 @@ QStringList clipped(QWidget* top) {
     QStringList out;
     auto check = [&](QWidget* w, const QString& text, QSize needed, QSize room) {
         if (needed.width() > room.width() || needed.height() > room.height())
-            out << QString("%1: %2 (%3x%4 > %5x%6)")
-                       .arg(w->objectName(), text.left(60))
-                       .arg(needed.width())
-                       .arg(needed.height())
-                       .arg(room.width())
-                       .arg(room.height());
+            out << QString::asprintf("%s: %s (%dx%d > %dx%d)", qPrintable(w->objectName()), qPrintable(text.left(60)),
+                                     needed.width(), needed.height(), room.width(), room.height());
     };
     for (QWidget* w : top->findChildren<QWidget*>()) {
         if (!w->isVisibleTo(top)) continue;
@@ -90,13 +86,6 @@ void savePicture(QWidget* w, const QString& name) {
     savePicture(shot, QString("scale_%1_%2").arg(w->devicePixelRatioF(), 0, 'f', 2).arg(name));
 }
 
-template <typename T>
-T* child(QWidget& w, const char* name) {
-    T* found = w.findChild<T*>(name);
-    if (!found) qFatal("missing child %s", name);
-    return found;
-}
-
 }  // namespace
 
 class HighDpiTest : public QObject {
@@ -116,7 +105,7 @@ private slots:
         QFETCH(QString, action);
         QFETCH(QString, level);
         MessageBoxAnswerer answerer;
-        window().findChild<QAction*>(action)->trigger();
+        trigger(window(), qPrintable(action));
         QCOMPARE(child<QLabel>(window(), "txtLevel")->text(), level);
         savePicture(&window(), "window_" + action);
         const QStringList bad = clipped(&window());

@@ -14,14 +14,10 @@ namespace {
 SudokuWindow* shownWindow() {
     auto* window = new SudokuWindow();
     window->show();
+    if (!QTest::qWaitForWindowExposed(window)) qFatal("window not shown");
     return window;
 }
 
-int firstEmpty(SudokuWindow& w) {
-    for (int i = 0; i < 81; ++i)
-        if (!w.tileAt(i)->hasValue()) return i;
-    return -1;
-}
 
 }  // namespace
 
@@ -39,7 +35,6 @@ private slots:
 
     void closeDuringRefusalAnimation() {
         SudokuWindow* window = shownWindow();
-        QVERIFY(QTest::qWaitForWindowExposed(window));
         eng::Board* board = window->currentBoard();
         const size_t history = board->historySize();
         const int i = firstEmpty(*window);
@@ -48,8 +43,8 @@ private slots:
         QTimer::singleShot(300, window, [window, i] {
             // Input during the blink is ignored, then the window closes.
             QTest::mouseClick(window->tileAt(i == 0 ? 1 : 0), Qt::LeftButton);
-            window->findChild<QAction*>("actionMakeMove")->trigger();
-            window->findChild<QAction*>("actionOpenGame")->trigger();
+            trigger(*window, "actionMakeMove");
+            trigger(*window, "actionOpenGame");
             window->close();
         });
         QTest::keyClick(tile, Qt::Key_0 + board->solutionValue(i) % 9 + 1);
@@ -62,10 +57,9 @@ private slots:
 
     void closeWhileAskingForANewGame() {
         SudokuWindow* window = shownWindow();
-        QVERIFY(QTest::qWaitForWindowExposed(window));
         eng::Board* board = window->currentBoard();
         QTimer::singleShot(100, window, [window] { window->close(); });
-        window->findChild<QAction*>("actionNewGameHard")->trigger();
+        trigger(*window, "actionNewGameHard");
         QCOMPARE(window->currentBoard(), board);
         QCOMPARE(window->levelText(), QString("difficulty: Medium"));
         delete window;
@@ -73,9 +67,8 @@ private slots:
 
     void closeDuringCelebration() {
         SudokuWindow* window = shownWindow();
-        QVERIFY(QTest::qWaitForWindowExposed(window));
         MessageBoxAnswerer answerer;
-        window->findChild<QAction*>("actionNewGameVeryEasy")->trigger();
+        trigger(*window, "actionNewGameVeryEasy");
         eng::Board* board = window->currentBoard();
         QCOMPARE(board->getLevel(), int(eng::lvlVeryEasy));
         int last = -1;
@@ -89,8 +82,8 @@ private slots:
         QTimer::singleShot(400, window, [window] {
             // Clicks and commands during the sweep are ignored, then the window closes.
             QTest::mouseClick(window->tileAt(0), Qt::LeftButton);
-            window->findChild<QAction*>("actionRetractMove")->trigger();
-            window->findChild<QAction*>("actionNewGameHard")->trigger();
+            trigger(*window, "actionRetractMove");
+            trigger(*window, "actionNewGameHard");
             window->close();
         });
         QElapsedTimer timer;
