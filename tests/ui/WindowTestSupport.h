@@ -1,13 +1,12 @@
 #pragma once
-// Helpers for the widget tests: finding children, answering message boxes
-// automatically and reading the board through the tiles.
+// Helpers for the widget tests: a shown window, finding children, answering
+// message boxes, reading the board through the tiles, saving pictures.
 
 #include <QAction>
-#include <QApplication>
+#include <QDir>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QStringList>
-#include <QTimer>
+#include <QtTest>
 
 #include "SudokuWindow.h"
 
@@ -21,6 +20,13 @@ T* child(QWidget& w, const char* name) {
 
 inline void trigger(QWidget& w, const char* action) { child<QAction>(w, action)->trigger(); }
 
+inline SudokuWindow* shownWindow() {
+    auto* window = new SudokuWindow();
+    window->show();
+    if (!QTest::qWaitForWindowExposed(window, 30000)) qFatal("window not shown");
+    return window;
+}
+
 // The first tile without a value after index `after`, or -1.
 inline int firstEmpty(SudokuWindow& w, int after = -1) {
     for (int i = after + 1; i < 81; ++i)
@@ -28,32 +34,37 @@ inline int firstEmpty(SudokuWindow& w, int after = -1) {
     return -1;
 }
 
+inline std::vector<int> shownValues(SudokuWindow& w) {
+    std::vector<int> v;
+    for (int i = 0; i < 81; ++i) v.push_back(w.tileAt(i)->value());
+    return v;
+}
+
 // Answers every message box that appears while it lives: records its text and
 // presses the chosen button (Ok, or Yes/No for questions).
-class MessageBoxAnswerer : public QObject {
-public:
-    explicit MessageBoxAnswerer(QMessageBox::StandardButton questionAnswer = QMessageBox::Yes)
-        : answer(questionAnswer) {
-        timer.setInterval(10);
-        QObject::connect(&timer, &QTimer::timeout, [this] { poll(); });
-        timer.start();
-    }
-
+struct MessageBoxAnswerer : QObject {
     QStringList texts;
     QMessageBox::StandardButton answer;
-
-private:
     QTimer timer;
-
-    void poll() {
-        for (QWidget* w : QApplication::topLevelWidgets()) {
-            auto* box = qobject_cast<QMessageBox*>(w);
-            if (!box || !box->isVisible() || box->property("answered").toBool()) continue;
-            box->setProperty("answered", true);
-            texts << box->text();
-            QAbstractButton* button = box->button(answer);
-            if (!button) button = box->button(QMessageBox::Ok);
-            if (button) button->click();
-        }
+    explicit MessageBoxAnswerer(QMessageBox::StandardButton questionAnswer = QMessageBox::Yes) : answer(questionAnswer) {
+        QObject::connect(&timer, &QTimer::timeout, [this] {
+            for (QWidget* w : QApplication::topLevelWidgets()) {
+                auto* box = qobject_cast<QMessageBox*>(w);
+                if (!box || !box->isVisible() || box->property("answered").toBool()) continue;
+                box->setProperty("answered", true);
+                texts << box->text();
+                if (QAbstractButton* b = box->button(answer) ? box->button(answer) : box->button(QMessageBox::Ok)) b->click();
+            }
+        });
+        timer.start(10);
     }
 };
+
+// Saves a picture of what a test shows into $SUDOKU_TEST_OUTPUT, for a person to look at.
+inline void savePicture(const QImage& image, const QString& name) {
+    const QString dir = qEnvironmentVariable("SUDOKU_TEST_OUTPUT");
+    if (dir.isEmpty()) return;
+    QDir().mkpath(dir);
+    image.save(dir + "/" + name + ".png");
+}
+inline void savePicture(QWidget& widget, const QString& name) { savePicture(widget.grab().toImage(), name); }

@@ -14,7 +14,7 @@
 #include "AboutDialog.h"
 #include "PencilMarksOptions.h"
 #include "PrintingInfo.h"
-#include "TestPictures.h"
+#include "WindowTestSupport.h"
 #include "WindowTestSupport.h"
 
 using Rules = std::list<eng::Rules>;

@@ -11,7 +11,7 @@
 #include <thread>
 
 #include "SudokuWindow.h"
-#include "TestPictures.h"
+#include "WindowTestSupport.h"
 #include "WindowTestSupport.h"
 
 namespace {

@@ -20,7 +20,7 @@
 #include "PencilMarksOptions.h"
 #include "PrintingInfo.h"
 #include "SudokuWindow.h"
-#include "TestPictures.h"
+#include "WindowTestSupport.h"
 #include "WindowTestSupport.h"
 
 namespace {

@@ -17,7 +17,7 @@
 
 #include "PrintLayout.h"
 #include "SudokuWindow.h"
-#include "TestPictures.h"
+#include "WindowTestSupport.h"
 #include "WindowTestSupport.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-#include "TestPictures.h"
+#include "WindowTestSupport.h"
 #include "Tile.h"
 
 namespace {
