@@ -180,9 +180,14 @@ private slots:
     }
 
     // No tile stays pink without the highlighted value: across a new game,
-    // make move and retract, and the clicks that used to leave one.
+    // make move and retract, a value entered, and the clicks that used to leave one.
     void noStaleHighlight() {
         const int v = window->tileAt(firstFilled())->value();
+        QTest::mouseClick(window->tileAt(firstFilled()), Qt::LeftButton);
+        QCOMPARE(window->highlight(), v);
+        checkHighlight("click");
+        QTest::mouseClick(window->tileAt(firstFilled()), Qt::LeftButton);  // a second click ends it
+        QCOMPARE(window->highlight(), 0);
         QTest::mouseClick(window->tileAt(firstFilled()), Qt::LeftButton);
         QList<int> held;
         for (int i = 0; i < 81; ++i)
@@ -206,6 +211,10 @@ private slots:
         savePicture(screenOf(*window), "display_highlight");
         for (int i = 0; i < 4; ++i) window->retractMove();
         checkHighlight("retract");
+        const int empty = firstEmpty(*window), right = window->currentBoard()->solutionValue(empty);
+        window->tileValueEdited(empty, right);  // the highlight moves to the value entered
+        QCOMPARE(window->highlight(), right);
+        checkHighlight("value entered");
     }
 };
 

@@ -95,29 +95,6 @@ private slots:
         QCOMPARE(answerer.texts, QStringList{"Current game will be lost.\nContinue?"});
     }
 
-    void highlightToggling() {
-        int filled = 0;
-        while (!window->tileAt(filled)->hasValue()) ++filled;
-        const int v = window->tileAt(filled)->value(), empty = firstEmpty(*window);
-        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
-        QCOMPARE(window->highlight(), v);
-        for (int i = 0; i < 81; ++i) QCOMPARE(window->tileAt(i)->isHighlighted(), window->tileAt(i)->value() == v);
-        savePicture(*window, "window_highlight");
-        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
-        QCOMPARE(window->highlight(), 0);
-        // A click on an empty tile places the caret and ends the highlight.
-        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
-        QTest::mouseClick(window->tileAt(empty), Qt::LeftButton);
-        QCOMPARE(window->highlight(), 0);
-        QCOMPARE(window->caret(), empty);
-        // Entering a value moves an active highlight to it.
-        QTest::mouseClick(window->tileAt(filled), Qt::LeftButton);
-        QCOMPARE(window->highlight(), v);
-        const int right = window->currentBoard()->solutionValue(empty);
-        window->tileValueEdited(empty, right);
-        QCOMPARE(window->highlight(), right);
-    }
-
     void startUpAndDeclinedNewGame() {
         const auto before = shownValues(*window);
         QVERIFY(std::count(before.begin(), before.end(), 0) < 64 && std::count(before.begin(), before.end(), 0) > 0);
