@@ -1,15 +1,20 @@
 // The main window: start-up, game commands, caret and highlight, view options,
 // open and save, and closing it in the middle of things.
+#include <QDialogButtonBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <cstdlib>
 #include <numeric>
+#include <set>
 #include <sys/mount.h>
 #include <unistd.h>
 
 #include "WindowTestSupport.h"
+
+using Rules = std::list<eng::Rules>;
 
 class WindowTest : public QObject {
     Q_OBJECT
@@ -163,19 +168,83 @@ private slots:
         QVERIFY(!window->isVisible());
     }
 
-    void rulesFromTheDialog() {
+    // The pencil-mark options: which rules, in which order; applying them removes candidates, shown white on red.
+    void pencilMarkRules() {
         std::srand(77);
         MessageBoxAnswerer answerer;
         trigger(*window, "actionNewGameHard");
         trigger(*window, "actionViewPencilMarks");
-        eng::Board* board = window->currentBoard();
-        const size_t before = board->historySize();
-        for (auto rule : {eng::ruleHiddenSingles, eng::ruleLockedByRows, eng::ruleDoubles}) window->applyPencilmarksRule(rule);
-        QVERIFY(board->historySize() > before);
-        int marked = 0;  // removed candidates show white on red
+        trigger(*window, "actionViewPencilMarksOptions");
+        PencilMarksOptions& dialog = window->pencilMarksDialog();
+        auto* src = child<QListWidget>(dialog, "lstSrc");
+        auto* dest = child<QListWidget>(dialog, "lstDest");
+        auto click = [&dialog](const char* button) { child(dialog, button)->click(); };
+        auto expectClean = [&dialog](bool clean) {
+            QCOMPARE(dialog.windowTitle(), QString(clean ? "Pencil Marks Options" : "Pencil Marks Options*"));
+            QCOMPARE(child<QDialogButtonBox>(dialog, "buttonBox")->isEnabled(), !clean);
+        };
+        auto apply = [&] { child<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Apply)->click(); };
+        QCOMPARE(dialog.selectedRules(), Rules{eng::ruleSingles});
+        expectClean(true);
+        savePicture(dialog, "pencil_marks_options");
+
+        // A double click on a rule applies it alone and moves nothing.
+        const size_t before = window->currentBoard()->historySize();
+        const QPoint at = src->visualItemRect(src->item(11)).center();  // 12. Hidden Singles
+        QTest::mouseClick(src->viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(src->viewport(), Qt::LeftButton, {}, at);
+        QVERIFY(window->currentBoard()->historySize() > before);
+        int marked = 0;
         for (QLabel* label : window->findChildren<QLabel*>()) marked += label->styleSheet() == Tile::stylePotentialRemoved;
         QVERIFY(marked > 0);
         savePicture(*window, "window_rules_applied");
+        QCOMPARE(src->count(), 15);
+        expectClean(true);
+
+        src->item(4)->setSelected(true);   // 05. Doubles
+        src->item(11)->setSelected(true);  // 12. Hidden Singles
+        click("btnToDst");
+        expectClean(false);
+        // Hidden Singles to the top; up on the first row stays, the list keeps the focus.
+        dest->clearSelection();
+        dest->setCurrentRow(2);
+        child(dialog, "btnToDst")->setFocus();
+        for (int k = 0; k < 3; ++k) click("btnUp");
+        QCOMPARE(dialog.selectedRules(), (Rules{eng::ruleHiddenSingles, eng::ruleSingles, eng::ruleDoubles}));
+        QCOMPARE(dialog.focusWidget(), static_cast<QWidget*>(dest));
+        apply();
+        expectClean(true);
+        dest->setCurrentRow(2);
+        click("btnDown");  // down on the last row: nothing moves, still clean
+        expectClean(true);
+        dest->setCurrentRow(0);
+        click("btnDown");
+        QCOMPARE(dialog.selectedRules(), (Rules{eng::ruleSingles, eng::ruleHiddenSingles, eng::ruleDoubles}));
+        expectClean(false);
+        apply();
+        // Reordering "Available:" does not mark the dialog modified.
+        src->setCurrentRow(3);
+        dialog.moveCurrentItemDown();
+        QCOMPARE(src->item(4)->text(), QString("03. Singles Row + Col Only"));
+        expectClean(true);
+        // Without a current row nothing moves and no entry is lost.
+        dest->setCurrentItem(nullptr);
+        dialog.dstSelectionChanged();
+        dialog.moveCurrentItemUp();
+        dest->selectAll();
+        click("btnToSrc");
+        QVERIFY(dialog.selectedRules().empty());
+        dialog.moveCurrentItemUp();
+        QCOMPARE(src->count(), 16);
+        // Everything chosen: sixteen distinct rules in the order of the list.
+        src->selectAll();
+        click("btnToDst");
+        apply();
+        const Rules all = dialog.selectedRules();
+        int row = 0;
+        for (eng::Rules rule : all) QCOMPARE(int(rule), dest->item(row++)->data(Qt::UserRole).toInt());
+        QCOMPARE(std::set<eng::Rules>(all.begin(), all.end()).size(), 16u);
+        QCOMPARE(answerer.texts, QStringList{"Current game will be lost.\nContinue?"});
     }
 
     void saveAndOpen() {
