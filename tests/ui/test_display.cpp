@@ -65,8 +65,8 @@ struct ScreenSampler {
         if (at) area.translate(at->dst_x, at->dst_y);
         free(at);
         while (!done) {
-            const auto cookie = xcb_get_image(c, XCB_IMAGE_FORMAT_Z_PIXMAP, root, area.x(), area.y(), area.width(),
-                                              area.height(), ~0u);
+            const auto cookie =
+                xcb_get_image(c, XCB_IMAGE_FORMAT_Z_PIXMAP, root, area.x(), area.y(), area.width(), area.height(), ~0u);
             if (auto* reply = xcb_get_image_reply(c, cookie, nullptr)) {
                 const QChar letter = QLatin1Char(
                     classify(QImage(xcb_get_image_data(reply), area.width(), area.height(), QImage::Format_RGB32)));
@@ -152,7 +152,9 @@ private slots:
         // Red pixels inside the tile's border: the struck-through digit is shown.
         ScreenSampler sampler(window->tileAt(a), QRect(8, 8, 44, 44),
                               [](const QImage& image) { return countPixels(image, red) > 20 ? 'V' : 'h'; });
-        QTimer::singleShot(0, window, [&] { QProcess::startDetached("xdotool", QStringList{"key", "--delay", "40"} + keys); });
+        QTimer::singleShot(0, window, [&] {
+            QProcess::startDetached("xdotool", QStringList{"key", "--delay", "40"} + keys);
+        });
         QTest::keyClick(window->tileAt(a), Qt::Key_0 + board->solutionValue(a) % 9 + 1);
         const QString runs = sampler.stop();
         QVERIFY2(runs.contains("VhVh"), qPrintable(runs));
@@ -198,8 +200,9 @@ private slots:
         for (int i : held)  // a tile that held the value and is empty now, then another empty one
             if (!window->tileAt(i)->hasValue()) {
                 QTest::mouseClick(window->tileAt(i), Qt::LeftButton);
-                QTest::mouseClick(window->tileAt(firstEmpty(*window, i) >= 0 ? firstEmpty(*window, i) : firstEmpty(*window)),
-                                  Qt::LeftButton);
+                QTest::mouseClick(
+                    window->tileAt(firstEmpty(*window, i) >= 0 ? firstEmpty(*window, i) : firstEmpty(*window)),
+                    Qt::LeftButton);
                 checkHighlight("click after new game");
                 break;
             }

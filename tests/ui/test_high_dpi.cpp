@@ -31,8 +31,7 @@ QRect textRoom(QAbstractButton* b) {
 QSize textSize(QLabel* label) {
     if (!Qt::mightBeRichText(label->text())) {  // one line of text: its ink must show
         const QFontMetrics fm = label->fontMetrics();
-        if (label->wordWrap())
-            return fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text()).size();
+        if (label->wordWrap()) return fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text()).size();
         return {fm.horizontalAdvance(label->text()), fm.tightBoundingRect(label->text()).height()};
     }
     QTextDocument doc;
@@ -59,8 +58,7 @@ QStringList clipped(QWidget* top) {
         } else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty() && b->icon().isNull()) {
             QString text = b->text();
             text.remove(QRegularExpression("&(?!&)"));
-            check(b, text, {b->fontMetrics().horizontalAdvance(text), b->fontMetrics().height()},
-                  textRoom(b).size());
+            check(b, text, {b->fontMetrics().horizontalAdvance(text), b->fontMetrics().height()}, textRoom(b).size());
         } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
             check(g, g->title(), {g->fontMetrics().horizontalAdvance(g->title()), 0}, g->contentsRect().size());
         } else if (auto* list = qobject_cast<QListWidget*>(w)) {

@@ -40,8 +40,9 @@ void expectInkOnlyIn(const QImage& page, const QVector<QRectF>& boards) {
     for (int y = 0; y < page.height(); ++y)
         for (int x = 0; x < page.width(); ++x) {
             const QPointF mm((x + 0.5) / kPxPerMm, (y + 0.5) / kPxPerMm);
-            stray += qGray(page.pixel(x, y)) < 200 &&
-                     std::none_of(boards.begin(), boards.end(), [&](QRectF r) { return r.adjusted(-1.5, -1.5, 1.5, 1.5).contains(mm); });
+            stray += qGray(page.pixel(x, y)) < 200 && std::none_of(boards.begin(), boards.end(), [&](QRectF r) {
+                         return r.adjusted(-1.5, -1.5, 1.5, 1.5).contains(mm);
+                     });
         }
     QCOMPARE(stray, 0);
     for (const QRectF& r : boards) {
@@ -102,7 +103,8 @@ private slots:
                              << QVector<QRectF>{{55, 34.5, 100, 104}, {55, 158.5, 100, 104}};
         QTest::newRow("two_landscape") << "radNewTwoGames" << 1 << true << false
                                        << QVector<QRectF>{{38.5, 53, 100, 104}, {158.5, 53, 100, 104}};
-        const QVector<QRectF> four{{17.5, 55.5, 80, 83}, {112.5, 55.5, 80, 83}, {17.5, 158.5, 80, 83}, {112.5, 158.5, 80, 83}};
+        const QVector<QRectF> four{
+            {17.5, 55.5, 80, 83}, {112.5, 55.5, 80, 83}, {17.5, 158.5, 80, 83}, {112.5, 158.5, 80, 83}};
         QTest::newRow("four") << "radNewFourGames" << 1 << false << false << four;
         QTest::newRow("four_high") << "radNewFourGames" << 1 << false << true << four;
         QTest::newRow("four_twice") << "radNewFourGames" << 2 << false << false << four;
@@ -145,9 +147,8 @@ private slots:
         child<QCheckBox>(info, "chkShowPrintPreview")->setChecked(false);
         const QString path = dir.filePath("command.pdf");
         QString answer = path;
-        window->setFileNameProvider([&](SudokuWindow::FileRequest r) {
-            return r == SudokuWindow::FileRequest::Pdf ? answer : QString();
-        });
+        window->setFileNameProvider(
+            [&](SudokuWindow::FileRequest r) { return r == SudokuWindow::FileRequest::Pdf ? answer : QString(); });
         acceptOptionsSoon();
         QTest::keyClick(window->tileAt(40), Qt::Key_P, Qt::ControlModifier);
         QCOMPARE(pageCount(path), 2);
