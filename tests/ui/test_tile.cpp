@@ -144,12 +144,15 @@ private slots:
         QSignalSpy single(tile, &Tile::singlePotentialDoubleClicked), edited(tile, &Tile::valueEdited);
         QSignalSpy toggled(tile, &Tile::potentialsEdited), moved(tile, &Tile::moveCaret);
         // A double click on a tile with a single candidate shown offers it.
-        QTest::mouseDClick(tile, Qt::LeftButton);
         tile->showPencilMarks(true);
         update(0, 0, {6});
         QTest::mouseDClick(tile, Qt::RightButton);
         QCOMPARE(single.count(), 1);
         QCOMPARE(single.at(0), (QVariantList{37, 6}));
+        tile->showPencilMarks(false);  // not when the candidate is hidden
+        QTest::mouseDClick(tile, Qt::LeftButton);
+        QCOMPARE(single.count(), 1);
+        tile->showPencilMarks(true);
 
         QTest::keyClick(tile, Qt::Key_5);  // no caret: nothing
         QTest::keyClick(tile, Qt::Key_Left);
@@ -166,7 +169,7 @@ private slots:
         for (auto dir : {Tile::Left, Tile::Right, Tile::Up, Tile::Down})
             QCOMPARE(moved.takeFirst().at(1).value<Tile::CaretDirection>(), dir);
         QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_Down, Qt::NoModifier, QString(), true);
-        QApplication::sendEvent(tile, &repeated);
+        QApplication::sendEvent(tile, &repeated);  // a held arrow key keeps moving
         QCOMPARE(moved.count(), 1);
 
         update(0);
