@@ -16,6 +16,7 @@
 #include <cstring>
 #include <vector>
 
+#include "HighDpi.h"
 #include "SudokuWindow.h"
 
 namespace {
@@ -133,7 +134,10 @@ public:
     }
 };
 
+// Starts the way the program does, up to the shown window.
 int startUpChild(int argc, char** argv) {
+    enableHighDpiScaling();
+    useRasterWindowsOnly();
     QElapsedTimer t;
     t.start();
     QApplication app(argc, argv);
@@ -154,6 +158,8 @@ int startUpChild(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (argc > 1 && std::strcmp(argv[1], "--startup-child") == 0) return startUpChild(argc, argv);
+    enableHighDpiScaling();
+    useRasterWindowsOnly();
     QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

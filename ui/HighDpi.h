@@ -16,3 +16,9 @@ inline void enableHighDpiScaling() {
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
+
+// The window paints with the raster engine only: nothing in it draws with
+// OpenGL, and without this the first window on X11 loads and probes the GLX
+// driver, which alone took longer than building the whole window. Must run
+// before the application object is created.
+inline void useRasterWindowsOnly() { QApplication::setAttribute(Qt::AA_ForceRasterWidgets); }

@@ -37,9 +37,11 @@ const char* levelLabel(int level) {
 }  // namespace
 
 SudokuWindow::SudokuWindow(QWidget* parent)
-    : QMainWindow(parent), ui(new Ui::SudokuWindowClass), printingInfo(nullptr), pencilMarksOptions(nullptr) {
+    : QMainWindow(parent), ui(new Ui::SudokuWindowClass), pencilMarksOptions(nullptr) {
     ui->setupUi(this);
-    for (int i = 0; i < 81; ++i) tiles[i] = findChild<Tile*>(QStringLiteral("tile%1").arg(i, 2, 10, QLatin1Char('0')));
+    // One walk over the board finds all 81 tiles; the form gives each its index.
+    for (Tile* tile : ui->boardWidget->findChildren<Tile*>())
+        if (tile->index() >= 0 && tile->index() < 81) tiles[tile->index()] = tile;
 
     qRegisterMetaType<Tile::CaretDirection>("Tile::CaretDirection");
     qRegisterMetaType<eng::Rules>("eng::Rules");
@@ -76,6 +78,11 @@ SudokuWindow::~SudokuWindow() {
     delete board;
     board = nullptr;
     delete ui;
+}
+
+PrintingInfo& SudokuWindow::printingOptions() {
+    if (!printingInfo) printingInfo = std::make_unique<PrintingInfo>(nullptr);
+    return *printingInfo;
 }
 
 QString SudokuWindow::levelText() const { return ui->txtLevel->text(); }

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <memory>
 
 #include "Board.h"
 #include "PencilMarksOptions.h"
@@ -46,7 +47,7 @@ public:
     Tile* tileAt(int index) const { return index >= 0 && index < 81 ? tiles[index] : nullptr; }
     int caret() const { return caretIndex; }
     int highlight() const { return highlightedValue; }
-    PrintingInfo& printingOptions() { return printingInfo; }
+    PrintingInfo& printingOptions();
     PencilMarksOptions& pencilMarksDialog() { return pencilMarksOptions; }
     QString levelText() const;
     // A4 portrait, full page, no margins: how every print starts.
@@ -94,7 +95,8 @@ private:
     Ui::SudokuWindowClass* ui;
     Tile* tiles[81];
     eng::Board* board = nullptr;
-    PrintingInfo printingInfo;
+    // Built when first asked for: most runs never print.
+    std::unique_ptr<PrintingInfo> printingInfo;
     PencilMarksOptions pencilMarksOptions;
     int caretIndex = -1;
     bool markChanges = false;

@@ -21,20 +21,20 @@ void SudokuWindow::printGame() {
     if (busy) return;
     {
         BusyScope scope(busy);
-        if (printingInfo.exec() != QDialog::Accepted) return;
+        if (printingOptions().exec() != QDialog::Accepted) return;
     }
-    QPrinter printer(printingInfo.highResolution() ? QPrinter::HighResolution : QPrinter::ScreenResolution);
-    if (printingInfo.exportToPdf()) printer.setOutputFormat(QPrinter::PdfFormat);
+    QPrinter printer(printingOptions().highResolution() ? QPrinter::HighResolution : QPrinter::ScreenResolution);
+    if (printingOptions().exportToPdf()) printer.setOutputFormat(QPrinter::PdfFormat);
     preparePrinter(printer);
 
-    if (printingInfo.showPrintPreview()) {
+    if (printingOptions().showPrintPreview()) {
         BusyScope scope(busy);
         QPrintPreviewDialog preview(&printer);
         connect(&preview, &QPrintPreviewDialog::paintRequested, this, &SudokuWindow::doPainting);
         preview.exec();
         return;
     }
-    if (printingInfo.exportToPdf()) {
+    if (printingOptions().exportToPdf()) {
         const QString name = askFileName(FileRequest::Pdf);
         if (name.isEmpty()) return;
         printer.setOutputFormat(QPrinter::PdfFormat);
@@ -80,8 +80,8 @@ void SudokuWindow::doPainting(QPrinter* printer) {
         painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                                QPainter::SmoothPixmapTransform | QPainter::HighQualityAntialiasing);
         QT_WARNING_POP
-        const int what = printingInfo.whatToPrint();
-        for (int pass = 0; pass < printingInfo.repeatCount(); ++pass) {
+        const int what = printingOptions().whatToPrint();
+        for (int pass = 0; pass < printingOptions().repeatCount(); ++pass) {
             if (pass > 0) printer->newPage();
             switch (what) {
             case 2: printTwoPerPage(pageMm, pageDevice, painter); break;
@@ -96,14 +96,14 @@ void SudokuWindow::doPainting(QPrinter* printer) {
 
 // A game for the page, started like the level commands but without asking.
 void SudokuWindow::generateForPrinting() {
-    const int level = printingInfo.gamesLevel();
+    const int level = printingOptions().gamesLevel();
     newGameStep(level, true);
     setLevelLabel(level);
 }
 
 void SudokuWindow::printOnePerPage(const QRectF& pageMm, const QRectF&, QPainter& painter, QPrinter* printer) {
     QPicture picture;
-    if (printingInfo.whatToPrint() == 1) generateForPrinting();
+    if (printingOptions().whatToPrint() == 1) generateForPrinting();
     ui->boardWidget->render(&picture, QPoint(), QRegion(), kRenderFlags);
     const QRectF target = print_layout::boardRects(1, pageMm).first();
     painter.translate(target.x() * printer->logicalDpiX() / 25.4, target.y() * printer->logicalDpiY() / 25.4);

@@ -5,6 +5,7 @@
 
 int main(int argc, char** argv) {
     enableHighDpiScaling();
+    useRasterWindowsOnly();
     QApplication app(argc, argv);
     // Lets the desktop match the window to the installed entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));
