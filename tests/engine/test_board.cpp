@@ -55,41 +55,30 @@ struct Game : ::testing::Test {
 using GeneratedGame = Game<lvlEasy, ruleSinglesRowOnly>;
 using UserEditGame = Game<lvlUserEdit, ruleSingles>;
 
-class GradedLevels : public ::testing::TestWithParam<int> {};
-
 }  // namespace
 
-TEST_P(GradedLevels, PuzzlesAreGradedAndConsistent) {
-    const int level = GetParam();
-    for (unsigned seed = 100; seed < 106; ++seed) {
-        SCOPED_TRACE(seed);
-        testing_support::seedRandom(seed);
-        Transcript observer;
-        Board board(&observer);
-        board.setPencilMarksRules({ruleSingles});
-        ASSERT_TRUE(board.generate(level));
-        EXPECT_EQ(board.getPhase(), 3);
-        EXPECT_EQ(board.getLevel(), level);
-        EXPECT_LE(board.getAttempt(), 14);
-        EXPECT_EQ(board.historySize(), 2u);
-        EXPECT_EQ(observer.text, "cellsChanged 81\n");
-        for (int i = 0; i < 81; ++i) EXPECT_EQ(board.cell(i)->origin(), board.cell(i)->value() ? originGiven : 0);
-        EXPECT_FALSE(board.isComplete());
-        // Never solved by the next easier preset, always by the level's own.
-        EXPECT_TRUE(level < lvlEasy || !presetSolves(board, level - 2));
-        EXPECT_TRUE(presetSolves(board, level == lvlVeryEasy ? 0 : level - 1));
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Levels, GradedLevels, ::testing::Values(lvlVeryEasy, lvlEasy, lvlMedium, lvlHard));
-
-TEST(Generation, CompletedUserEditRepeatedAndUnknownLevels) {
+TEST(Generation, LevelsAreGradedAndReplaceTheGame) {
     testing_support::seedRandom(5);
     Transcript observer;
     Board board(&observer);
+    for (int level : {lvlVeryEasy, lvlEasy, lvlMedium, lvlHard}) {
+        board.setPencilMarksRules(level == lvlVeryEasy ? std::list<Rules>{} : std::list<Rules>{ruleSingles});
+        observer.take();  // the new rules ran on the last game
+        ASSERT_TRUE(board.generate(level));
+        EXPECT_EQ(board.getPhase() * 10 + board.getLevel(), 30 + level);
+        EXPECT_LE(board.getAttempt(), 14);
+        EXPECT_EQ(observer.take(), "cellsChanged 81\n");
+        for (int i = 0; i < 81; ++i) {  // without player rules empty cells keep nine candidates
+            EXPECT_EQ(board.cell(i)->origin(), board.cell(i)->value() ? originGiven : 0);
+            EXPECT_TRUE(level != lvlVeryEasy || candidateCount(board.cell(i)) == (board.cell(i)->value() ? 1 : 9)) << i;
+        }
+        // Never solved by the next easier preset, always by the level's own.
+        EXPECT_TRUE(level < lvlEasy || !presetSolves(board, level - 2)) << level;
+        EXPECT_TRUE(presetSolves(board, level == lvlVeryEasy ? 0 : level - 1)) << level;
+    }
     EXPECT_FALSE(board.generate(6));
     EXPECT_FALSE(board.generate(-1));
-    EXPECT_EQ(board.historySize(), 0u);
+    EXPECT_EQ(board.getLevel(), lvlHard);  // the game stays
     ASSERT_TRUE(board.generate(lvlCompleted));
     EXPECT_TRUE(board.isComplete());
     EXPECT_EQ(filledCount(board), 81);
@@ -220,14 +209,6 @@ TEST_F(GeneratedGame, PlayerRulesAreAppliedOnlyWhenTheyChangeSomething) {
     board.setPencilMarksRules({ruleSingles});
     EXPECT_EQ(board.historySize(), 3u);
     EXPECT_EQ(board.pencilMarksRulesList(), std::list<Rules>{ruleSingles});
-}
-
-TEST(BoardRules, EmptyPlayerRulesLeaveNineCandidatesInEmptyCells) {
-    testing_support::seedRandom(99);
-    Board board(nullptr);
-    board.setPencilMarksRules({});
-    ASSERT_TRUE(board.generate(lvlVeryEasy));
-    for (int i = 0; i < 81; ++i) EXPECT_EQ(candidateCount(board.cell(i)), board.cell(i)->value() ? 1 : 9) << i;
 }
 
 TEST_F(UserEditGame, OnlyContradictoryValuesAreRefusedNoRulesOnTheFirstPosition) {

@@ -80,7 +80,6 @@ struct RuleCase {
     std::string result, expected;
 };
 
-const Rules kUnknown = static_cast<Rules>(5);
 const std::string kCells = "(too many cells, to few values)", kValues = "(too many values, to few cells)";
 
 const RuleCase kCases[] = {
@@ -90,15 +89,10 @@ const RuleCase kCases[] = {
     {"0:5", {ruleSingles}, "changed", "1,9,10-5 0+5"},
     {"40:2", {ruleSinglesColOnly}, "changed", "4,76-2 39,30+2"},
     {"40:2", {ruleSinglesSquareOnly}, "changed", "30,31,32,39,41,48,49,50-2 36,4+2"},
-    {"", {ruleSingles}, "unchanged", ""},
-    {"0=5", {ruleSingles}, "unchanged", ""},  // a value with nine candidates is no single
-    {"3,6:4", {ruleSinglesRowOnly}, "emptied 6", ""},
     {"0*4 60,72:4", {ruleSinglesRowOnly}, "changed", "60,72:4"},
     {"0*4 60,72:4", {ruleSinglesColOnly}, "emptied 72", ""},
     // The list: unknown values do nothing; a later success reruns earlier rules.
-    {"", {}, "unchanged", ""},
-    {"0:5", {kUnknown, static_cast<Rules>(0)}, "unchanged", ""},
-    {"0:5", {kUnknown, ruleSinglesRowOnly}, "changed", "8-5"},
+    {"0:5", {static_cast<Rules>(5), ruleSinglesRowOnly}, "changed", "8-5"},
     {"0:5 9:56", {ruleSinglesRowOnly, ruleSinglesColOnly}, "changed", "10-6"},
     {"0:5 9:56", {ruleSingles, ruleSingles}, "changed", "0:5 9:6 1,8,10-5 10,18,1-6"},
     {"0:5 8:57 17:7", {ruleSinglesRowOnly, ruleSinglesColOnly}, "emptied 17", "1,8,9-5"},
@@ -118,31 +112,23 @@ const RuleCase kCases[] = {
     {"0:123 1:12 2:23", {ruleQuads}, "changed", "3,4,5,6,7,8:456789"},
     {"0:123 1:12 2:23 clean 8!", {ruleTriples}, "changed", "4-2 9+2"},
     {"0:123 1*1 2:23", {ruleTriples}, "changed", "3,4,5,6,7,8:456789 27+2 19-2"},
-    {"0:123 5:23", {ruleTriples}, "unchanged", ""},
-    {"0:456 2:45 4:56 7:46", {ruleTriples}, 
+    {"0:456 2:45 4:56 7:46", {ruleTriples},
      "Conflict: On row 1: cannot distribute values: 4, 5, 6 to cells: 0th, 2nd, 4th, 7th  " + kCells, ""},
-    {"30:456 32:45 40:6 50:56", {ruleTriples}, 
+    {"30:456 32:45 40:6 50:56", {ruleTriples},
      "Conflict: On square 5: cannot distribute values: 4, 5, 6 to cells: 0th, 2nd, 4th, 8th  " + kCells, ""},
     // Column 0 comes before row 1 and before square 0.
-    {"9:123 10:12 11:23 12:13 0:789 27:78 54:89 72:79", {ruleTriples}, 
+    {"9:123 10:12 11:23 12:13 0:789 27:78 54:89 72:79", {ruleTriples},
      "Conflict: On column 1: cannot distribute values: 7, 8, 9 to cells: 0th, 3rd, 6th, 8th  " + kCells, ""},
-    {"0:789 27:78 54:89 72:79 10:78 11:89 19:79", {ruleTriples}, 
+    {"0:789 27:78 54:89 72:79 10:78 11:89 19:79", {ruleTriples},
      "Conflict: On column 1: cannot distribute values: 7, 8, 9 to cells: 0th, 3rd, 6th, 8th  " + kCells, ""},
     // Transitive pairs: a chain of three pairs; marks play no part.
-    {"0:12 4:23 8:13", {ruleTriples}, "unchanged", ""},
     {"0:12 4:23 8:13", {ruleTransitiveDoubles}, "changed", "1,2,3,5,6,7:456789 4:23"},
     {"0:12 4:23 8:13 clean", {ruleTransitiveDoubles}, "changed", "5-3"},
     {"0:12 40:23 80:13", {ruleTransitiveDoubles}, "unchanged", ""},
     {"0:12 9:23 18:13", {ruleTransitiveDoubles}, "changed", "27,72,1,11,20:456789 3+1"},
-    {"0:12 1:13 2:14", {ruleTransitiveDoubles}, "unchanged", ""},
-    {"0:12 4:23 8:13 8=1", {ruleTransitiveDoubles}, "unchanged", ""},
     {"0:12 1:23 2,6:13", {ruleTransitiveDoubles}, "emptied 6", ""},
     // Locked candidates.
-    {"1,3,4,5,6,7,8-5 clean", {ruleLockedByRows}, "unchanged", ""},
     {"1,3,4,5,6,7,8-5", {ruleLockedByRows}, "changed", "9,10,11,18,19,20-5 27+5"},
-    {"1,2,3,4,5,6,7,8-5", {ruleLockedByRows}, "unchanged", ""},
-    {"1,3,4,5,6,7,8-5 0,1,2~", {ruleLockedByRows}, "unchanged", ""},
-    {"1,3,4,6,7,8-5 5*5", {ruleLockedByRows}, "unchanged", ""},
     {"36,37,38,40,42,43,44-8", {ruleLockedByRows}, "changed", "30,31,32,48,49,50-8 39,41,33+8"},
     {"22,31,40,49,58,67,76-2", {ruleLockedByCols}, "changed", "3,5,12,14,21,23-2"},
     {"1,2,10,11,18,19,20-7", {ruleLockedBySquares}, "changed", "27,36,45,54,63,72-7"},
@@ -150,22 +136,19 @@ const RuleCase kCases[] = {
     {"60,61,69,70,71,78,79-3", {ruleLockedBySquares}, "changed", "8,17,26,35,44,53-3 59,62+3"},
     // Hidden subsets.
     {"0,1,2,3,5,6,7,8-6 4:268", {ruleHiddenSingles}, "changed", "4:6 3+2"},
-    {"0,1,2,3,5,6,7,8-6 4:6 4=6", {ruleHiddenSingles}, "unchanged", ""},
     {"0,1,2,3,5,6,7,8-6 4=6", {ruleHiddenSingles}, "unchanged", "4:123456789"},
     {"30,31,32,39,41,48,49,50-9", {ruleHiddenSingles}, "changed", "40:9 4+9"},
-    {"0,1,2,3,5,6,7,8-36", {ruleHiddenSingles}, 
+    {"0,1,2,3,5,6,7,8-36", {ruleHiddenSingles},
      "Conflict: On row 1: cannot distribute values: 3, 6 to cells: 4th  " + kValues, ""},
-    {"0,18,27,36,45,54,63,72-39 9,10,11,12,13,14,15,16-45", {ruleHiddenSingles}, 
+    {"0,18,27,36,45,54,63,72-39 9,10,11,12,13,14,15,16-45", {ruleHiddenSingles},
      "Conflict: On column 1: cannot distribute values: 3, 9 to cells: 1st  " + kValues, ""},
-    {"0,18,27,36,45,54,63,72-39 9,10,11,12,13,14,15,16-45 0,1,2,3,4,6,7,8-45", {ruleHiddenSingles}, 
+    {"0,18,27,36,45,54,63,72-39 9,10,11,12,13,14,15,16-45 0,1,2,3,4,6,7,8-45", {ruleHiddenSingles},
      "Conflict: On row 1: cannot distribute values: 4, 5 to cells: 5th  " + kValues, ""},
     {"2,11,29,38,47,56,74-19 clean", {ruleHiddenDoubles}, "unchanged", ""},
     {"2,11,29,38,47,56,74-19", {ruleHiddenDoubles}, "changed", "20,65:19"},
     {"1,2,3,4,5,6,7,8-19", {ruleHiddenDoubles}, "emptied 1", ""},
     {"73,74,75,77,78,79-123 76-3", {ruleHiddenTriples}, "changed", "72,80:123 76:12 73:456789"},
     {"64,66,68,70,71-1234", {ruleHiddenQuads}, "changed", "63,65,67,69:1234"},
-    {"0*1 1*2 2*3 3*4 4*5 5*6 6,7,8:789", {ruleHiddenQuads}, "unchanged", ""},
-    {"", {ruleHiddenQuads, ruleHiddenTriples}, "unchanged", ""},
 };
 
 class RuleCases : public ::testing::TestWithParam<RuleCase> {};
