@@ -25,9 +25,7 @@ int conflictKind(F f) {
 }  // namespace
 
 TEST(Conflicts, Descriptions) {
-    const std::string cell = "Conflict at cell index=", tuple = "Conflict: On ", cannot = ": cannot distribute values: ";
-    const std::string unknown = "details: Unknown conflict type. Please report this error.";
-    const std::string cells = "  (too many cells, to few values)", values = "  (too many values, to few cells)";
+    const std::string cell = "Conflict at cell index=", unknown = "details: Unknown conflict type. Please report this error.";
     const std::pair<ExCellConflict, std::string> cellCases[] = {
         {{0, 12, 5}, cell + "12value=5details: Cannot set this value. It's in conflict"},
         {{1, 80, 3}, cell + "80value=3details: Cannot set this potential value. It's in conflict"},
@@ -41,14 +39,12 @@ TEST(Conflicts, Descriptions) {
         EXPECT_EQ(conflict.describe(), text);  // describing twice keeps one copy
         EXPECT_EQ(conflict.message, text);
     }
+    // Tuple texts of both kinds are checked with the rules that raise them.
     const std::string unknownTuple = "Conflict: Unknown conflict type on tuple. Please report this error.";
     const std::pair<ExTupleConflict, std::string> tupleCases[] = {
-        {{1, "row", 2, {4, 7}, {1, 3, 5}}, tuple + "row 3" + cannot + "4, 7 to cells: 1st, 3rd, 5th" + cells},
-        {{1, "column", 8, {1, 2, 3}, {0, 1, 2, 3, 4, 8}},
-         tuple + "column 9" + cannot + "1, 2, 3 to cells: 0th, 1st, 2nd, 3rd, 4th, 8th" + cells},
-        {{0, "square", 8, {6}, {0}}, tuple + "square 9" + cannot + "6 to cells: 0th" + values},
-        {{0, "column", 0, {1, 2}, {2, 4, 8}}, tuple + "column 1" + cannot + "1, 2 to cells: 2nd, 4th, 8th" + values},
-        {{0, "row", 4, {}, {}}, tuple + "row 5" + cannot + " to cells: " + values},
+        {{1, "column", 8, {1, 2}, {0, 8}}, "Conflict: On column 9: cannot distribute values: 1, 2 to cells: 0th, 8th  "
+                                           "(too many cells, to few values)"},
+        {{0, "row", 4, {}, {}}, "Conflict: On row 5: cannot distribute values:  to cells:   (too many values, to few cells)"},
         {{2, "row", 0, {1}, {1}}, unknownTuple},
         {{-3, "square", 1, {}, {}}, unknownTuple}};
     for (auto [conflict, text] : tupleCases) {
@@ -60,45 +56,32 @@ TEST(Conflicts, Descriptions) {
 
 TEST(Cells, PlacesCandidatesAndConflicts) {
     Cell c;
-    EXPECT_EQ(c.index(), -1);
-    EXPECT_EQ(c.count(), 9);
+    EXPECT_EQ(c.index() * 10 + c.count(), -1);
     c.reset(30);
     EXPECT_EQ(c.row() * 100 + c.column() * 10 + c.square(), 334);
-    c.reset(80);
-    EXPECT_EQ(c.square(), 8);
     c.setIndex(-1);
     EXPECT_EQ(c.row() + c.column() + c.square(), -3);
-    c.reset(10);
-    EXPECT_FALSE(c.addPotential(5) || c.addPotential(10));  // already there; no such value
-    EXPECT_FALSE(c.keepOnlyPotentials({1, 2, 3, 4, 5, 6, 7, 8, 9, 12}));  // nothing changed: no mark
-    EXPECT_FALSE(c.isModified());
-    EXPECT_TRUE(c.setSinglePotential(4));
-    EXPECT_TRUE(c.isModified());
+    c.reset(80);
+    EXPECT_FALSE(c.addPotential(5) || c.addPotential(10) || c.isModified());  // already there; no such value
+    EXPECT_FALSE(c.keepOnlyPotentials({1, 2, 3, 4, 5, 6, 7, 8, 9, 12}) || c.isModified());  // nothing changed
+    EXPECT_TRUE(c.setSinglePotential(4) && c.isModified());
     c.setModified(false);
-    EXPECT_FALSE(c.setSinglePotential(4));
-    EXPECT_FALSE(c.isModified());
+    EXPECT_FALSE(c.setSinglePotential(4) || c.isModified());
     EXPECT_EQ(conflictKind([&] { c.setSinglePotential(5); }), 1);
-    EXPECT_EQ(conflictKind([&] { c.setValue(5, 2); }), 0);
     EXPECT_EQ(conflictKind([&] { c.setValue(0, 2); }), 0);  // 0 is never a candidate
     c.setValue(4, 2);
-    EXPECT_EQ(c.value() * 10 + c.origin(), 42);
-    EXPECT_TRUE(c.addPotential(9));
+    EXPECT_EQ(c.value() * 1000 + c.origin() * 100 + c.square(), 4208);
     c.reset(45);
-    EXPECT_EQ(c.count() * 10 + c.value(), 90);
-    EXPECT_FALSE(c.isModified());
-
+    EXPECT_EQ(c.count() * 10 + c.value() + c.isModified(), 90);
     EXPECT_TRUE(c.keepOnlyPotentials({2, 5, 0}));
     EXPECT_EQ(c.mask(), 0x12u);
-    EXPECT_FALSE(c.removePotential(3, false));
-    EXPECT_FALSE(c.removeValues(eng_priv::bitOf(9)));
+    EXPECT_FALSE(c.removePotential(3, false) || c.removeValues(eng_priv::bitOf(9)) || c.keepOnly(0x412));
     EXPECT_EQ(conflictKind([&] { c.removePotential(3, true); }), 2);
     std::vector<int> values{7};
     c.potentials(values);
     EXPECT_EQ(values, (std::vector<int>{2, 5}));
     EXPECT_TRUE(c.removePotential(2, true));
     EXPECT_EQ(conflictKind([&] { c.removePotential(5, true); }), 3);
-    EXPECT_EQ(conflictKind([] { Cell().keepOnlyPotentials({}); }), 3);
-    EXPECT_TRUE(Cell().keepOnly(eng_priv::bitOf(2) | 0x400));  // bits beyond 9 are ignored
 }
 
 TEST(Snapshots, CopiesAndEmptyCells) {
@@ -110,13 +93,10 @@ TEST(Snapshots, CopiesAndEmptyCells) {
     EXPECT_EQ(copy->guess.index * 10 + copy->guess.value, -10);
     EXPECT_EQ(copy->cells[4].value() * 10 + copy->cells[4].origin(), 73);
     EXPECT_TRUE(copy->cells[4].isModified());
-    EXPECT_EQ(copy->cells[80].square(), 8);
     std::vector<Cell*> empty;
     EXPECT_TRUE(copy->emptyCells(empty));
-    EXPECT_EQ(empty.size(), 80u);
-    EXPECT_EQ(empty[4]->index(), 5);
+    EXPECT_EQ(empty.size() * 100 + empty[4]->index(), 8005u);
     for (auto& c : s.cells)
         if (!c.value()) c.setValue(1 + c.index() % 9, 1);  // values need not agree to fill a position
-    EXPECT_FALSE(s.emptyCells(empty));
-    EXPECT_TRUE(empty.empty());
+    EXPECT_FALSE(s.emptyCells(empty) || !empty.empty());
 }
