@@ -1,7 +1,6 @@
 #pragma once
 // Shared helpers for the engine tests: an observer that writes down every
 // report, saving and loading through bytes, and reproducible seeding.
-
 #include <cstdlib>
 #include <sstream>
 #include <string>
@@ -11,13 +10,10 @@
 #include "Board.h"
 
 namespace eng {
-
 // Tests reach into the board only where no public operation exposes a state.
-class BoardTestAccess {
-public:
+struct BoardTestAccess {
     static eng_priv::MasterSolution& solution(Board& b) { return b.masterSolution; }
 };
-
 }  // namespace eng
 
 namespace testing_support {
@@ -26,8 +22,7 @@ namespace testing_support {
 // `detailed` as each cell's value, origin and candidates.
 struct Transcript : eng::BoardObserver {
     bool detailed = false;
-    std::string text;
-    std::string problem;  // a cell list that was not the 81 cells in index order
+    std::string text, problem;  // problem: a cell list that was not the 81 cells in index order
 
     void cells(const char* what, const std::vector<eng::CellInfo*>& cells) {
         text += std::string(what) + ' ' + std::to_string(cells.size());
@@ -43,15 +38,11 @@ struct Transcript : eng::BoardObserver {
     void note(const char* what, int a, int b) { text += std::string(what) + ' ' + std::to_string(a) + ' ' + std::to_string(b) + '\n'; }
     void cellsChanged(const std::vector<eng::CellInfo*>& c) override { cells("cellsChanged", c); }
     void noMoreMoves(const std::vector<eng::CellInfo*>& c) override { cells("noMoreMoves", c); }
-    void cellHasNoSolution(const std::vector<eng::CellInfo*>& c, int cell) override {
-        cells("cellHasNoSolution", c);
-        note("cell", cell, 0);
-    }
+    void cellHasNoSolution(const std::vector<eng::CellInfo*>& c, int cell) override { cells("cellHasNoSolution", c), note("cell", cell, 0); }
     void loadFailed(int expected, int actual) override { note("loadFailed", expected, actual); }
     void valueRefused(int index, int value) override { note("valueRefused", index, value); }
     void potentialRefused(int index, int value) override { note("potentialRefused", index, value); }
-    // The reports since the last call.
-    std::string take() { return std::exchange(text, std::string()); }
+    std::string take() { return std::exchange(text, std::string()); }  // the reports since the last call
 };
 
 inline std::string saved(eng::Board& b) {
@@ -76,12 +67,6 @@ inline std::vector<int> values(const eng::Board& b) {
     std::vector<int> out;
     for (int i = 0; i < 81; ++i) out.push_back(b.cell(i) ? b.cell(i)->value() : -1);
     return out;
-}
-
-inline int filledCount(const eng::Board& b) {
-    int n = 0;
-    for (int i = 0; i < 81; ++i) n += b.cell(i) && b.cell(i)->value() != 0;
-    return n;
 }
 
 }  // namespace testing_support

@@ -2,11 +2,12 @@
 // history and make move.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "BoardTestSupport.h"
 #include "RuleSolver.h"
 
 using namespace eng;
-using testing_support::filledCount;
 using testing_support::Transcript;
 using testing_support::values;
 
@@ -22,15 +23,18 @@ bool presetSolves(const Board& b, int preset) {
     } catch (const std::exception&) {
         return false;
     }
-    for (const auto& c : s.cells)
-        if (c.count() > 1) return false;
-    return true;
+    return std::all_of(std::begin(s.cells), std::end(s.cells), [](const eng_priv::Cell& c) { return c.count() == 1; });
 }
 
 int candidateCount(const CellInfo* c) {
     int n = 0;
     for (int v = 1; v <= 9; ++v) n += c->isPotential(v);
     return n;
+}
+
+int filledCount(const Board& b) {
+    const auto v = values(b);
+    return 81 - int(std::count(v.begin(), v.end(), 0));
 }
 
 template <int Level, Rules Rule>
