@@ -35,10 +35,14 @@ struct Transcript : eng::BoardObserver {
         if (cells.size() != 81) problem = std::string(what) + " with " + std::to_string(cells.size()) + " cells";
         text += '\n';
     }
-    void note(const char* what, int a, int b) { text += std::string(what) + ' ' + std::to_string(a) + ' ' + std::to_string(b) + '\n'; }
+    void note(const char* what, int a, int b) {
+        text += std::string(what) + ' ' + std::to_string(a) + ' ' + std::to_string(b) + '\n';
+    }
     void cellsChanged(const std::vector<eng::CellInfo*>& c) override { cells("cellsChanged", c); }
     void noMoreMoves(const std::vector<eng::CellInfo*>& c) override { cells("noMoreMoves", c); }
-    void cellHasNoSolution(const std::vector<eng::CellInfo*>& c, int cell) override { cells("cellHasNoSolution", c), note("cell", cell, 0); }
+    void cellHasNoSolution(const std::vector<eng::CellInfo*>& c, int cell) override {
+        cells("cellHasNoSolution", c), note("cell", cell, 0);
+    }
     void loadFailed(int expected, int actual) override { note("loadFailed", expected, actual); }
     void valueRefused(int index, int value) override { note("valueRefused", index, value); }
     void potentialRefused(int index, int value) override { note("potentialRefused", index, value); }
