@@ -65,6 +65,11 @@ TEST(Generation, LevelsAreGradedAndReplaceTheGame) {
     testing_support::seedRandom(5);
     Transcript observer;
     Board board(&observer);
+    // Without a game every operation does nothing.
+    EXPECT_FALSE(board.setValue(0, 1) || board.togglePotential(0, 1) || board.makeMove() || board.retract() ||
+                 board.isComplete());
+    board.applyPencilMarksRule(ruleSingles);
+    EXPECT_TRUE(observer.text.empty() && board.historySize() == 0 && board.getPhase() == 0);
     for (int level : {lvlVeryEasy, lvlEasy, lvlMedium, lvlHard}) {
         board.setPencilMarksRules(level == lvlVeryEasy ? std::list<Rules>{} : std::list<Rules>{ruleSingles});
         observer.take();  // the new rules ran on the last game
@@ -94,20 +99,6 @@ TEST(Generation, LevelsAreGradedAndReplaceTheGame) {
     EXPECT_EQ(observer.take(), "cellsChanged 81\n");
     ASSERT_TRUE(board.generate(lvlHard));
     EXPECT_FALSE(board.solution().forbidden);
-}
-
-TEST(BoardWithoutGame, OperationsDoNothing) {
-    Transcript observer;
-    Board board(&observer);
-    EXPECT_FALSE(board.setValue(0, 1) || board.togglePotential(0, 1) || board.makeMove() || board.retract() ||
-                 board.isComplete());
-    board.applyPencilMarksRule(ruleSingles);
-    board.setPencilMarksRules({ruleSingles, ruleDoubles});
-    EXPECT_EQ(observer.text, "");
-    EXPECT_EQ(board.historySize() + board.getPhase(), 0u);
-    Board silent(nullptr);  // a board without observer works silently
-    ASSERT_TRUE(silent.generate(lvlUserEdit));
-    EXPECT_TRUE(silent.setValue(0, 5) && !silent.setValue(1, 5) && silent.makeMove() && silent.retract());
 }
 
 TEST_F(GeneratedGame, ValuesAndPencilMarksAreCheckedAgainstTheSolution) {
@@ -182,6 +173,9 @@ TEST_F(GeneratedGame, PlayerRulesAreAppliedOnlyWhenTheyChangeSomething) {
 
 TEST_F(UserEditGame, OnlyContradictionsAreRefused) {
     EXPECT_EQ(board.solution().solution, nullptr);
+    Board silent(nullptr);  // a board without observer works silently
+    ASSERT_TRUE(silent.generate(lvlUserEdit));
+    EXPECT_TRUE(silent.setValue(0, 5) && !silent.setValue(1, 5) && silent.makeMove() && silent.retract());
     for (int v = 1; v <= 8; ++v) ASSERT_TRUE(board.togglePotential(0, v));  // in place: the only position
     EXPECT_FALSE(board.togglePotential(0, 9) || board.retract());
     board.applyPencilMarksRule(ruleSingles);  // no rules on the first position

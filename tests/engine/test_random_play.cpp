@@ -27,14 +27,12 @@ std::unique_ptr<Board> loaded(const std::string& bytes, Transcript* t, const std
 // The first digit standing twice in a row, column or square, as text.
 std::string repeatedDigit(const int (&values)[81]) {
     int seen[27] = {};
-    for (int i = 0; i < 81; ++i) {
-        if (values[i] == 0) continue;
+    for (int i = 0; i < 81; ++i)
         for (int unit : {i / 9, 9 + i % 9, 18 + (i / 27) * 3 + i % 9 / 3}) {
-            if (seen[unit] & (1 << values[i]))
+            if (values[i] && (seen[unit] & (1 << values[i])))
                 return std::to_string(values[i]) + " twice in unit " + std::to_string(unit);
-            seen[unit] |= 1 << values[i];
+            seen[unit] |= values[i] ? 1 << values[i] : 0;
         }
-    }
     return "";
 }
 
@@ -60,14 +58,11 @@ std::string brokenInvariant(const Board& b) {
     return repeatedDigit(values);
 }
 
-int sessionCount() {
-    if (const char* n = std::getenv("SUDOKU_RANDOM_PLAY_SESSIONS")) return std::atoi(n);
 #ifdef NDEBUG
-    return 240;
+constexpr int kSessions = 240;
 #else
-    return 24;  // sanitizer builds: a short run
+constexpr int kSessions = 24;  // sanitizer builds: a short run
 #endif
-}
 
 // One of the sixteen rules, or now and then a value that is none.
 eng::Rules randomRule(std::mt19937& rng) {
@@ -87,7 +82,8 @@ std::list<eng::Rules> randomRules(std::mt19937& rng) {
 TEST(RandomPlay, EveryStepKeepsTheGameConsistentAndSavable) {
     testing_support::seedRandom(0);  // the seeds below win over the clock
     std::mt19937 rng(20261123);
-    const int sessions = sessionCount();
+    const char* n = std::getenv("SUDOKU_RANDOM_PLAY_SESSIONS");
+    const int sessions = n ? std::atoi(n) : kSessions;
     long steps = 0;
     for (int session = 0; session < sessions; ++session) {
         const int level = session % 6;
@@ -136,13 +132,12 @@ TEST(RandomPlay, EveryStepKeepsTheGameConsistentAndSavable) {
                 rules.clear();
                 continue;
             }
-            t.text.clear();
-            twinTranscript.text.clear();
-            const bool result = run(*board);
-            const bool twinResult = run(*twin);
+            t.take(), twinTranscript.take();
+            const bool result = run(*board), twinResult = run(*twin);
             if (op == 4) rules = nextRules;
             // op: set value, toggle candidate, make move, retract, set rules, apply rule, is complete
-            const std::string call = "op " + std::to_string(op) + " cell " + std::to_string(index) + " value " + std::to_string(value);
+            const std::string call = "op " + std::to_string(op) + " cell " + std::to_string(index) + " value " +
+                                     std::to_string(value);
             ASSERT_EQ(twinResult, result) << where << call;
             ASSERT_EQ(twinTranscript.text, t.text) << where << call;
             ASSERT_EQ(saved(*twin), saved(*board)) << where << call;
