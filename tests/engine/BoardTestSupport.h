@@ -9,13 +9,6 @@
 
 #include "Board.h"
 
-namespace eng {
-// Tests reach into the board only where no public operation exposes a state.
-struct BoardTestAccess {
-    static eng_priv::MasterSolution& solution(Board& b) { return b.masterSolution; }
-};
-}  // namespace eng
-
 namespace testing_support {
 
 // One line per report. Cell lists are written as their size, or with
