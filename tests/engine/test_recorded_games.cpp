@@ -1,10 +1,9 @@
-// Recorded games: fixed seeds and fixed calls must give the very same games,
-// move for move. Each game is digested (FNV-1a 64) through the public
-// operations: every cell's value, origin and candidates, the stored solution,
-// and the saved-game bytes, which hold the history, the attempt and the
-// search counters. The expected digests were taken from the engine as it was
-// before its rules were rewritten on bit masks; any change in the games, in
-// the order of rand() calls or in what a rule removes shows up here.
+// Recorded games: fixed seeds and calls must give the very same games, move for
+// move, digested (FNV-1a 64) through every cell's value, origin and candidates,
+// the stored solution and the saved-game bytes (history, attempt, search
+// counters). The digests were taken before the rules were rewritten on bit
+// masks; any change in the games, in the order of rand() calls or in what a
+// rule removes shows up here.
 #include <gtest/gtest.h>
 
 #include "BoardTestSupport.h"

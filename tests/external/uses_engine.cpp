@@ -8,6 +8,5 @@ int main() {
     board.setPencilMarksRules({eng::ruleSingles, eng::ruleHiddenSingles});
     if (!board.generate(eng::lvlEasy) || !board.makeMove() || board.historySize() != 3) return 1;
     eng::ExCellConflict conflict(3, 4, 0);
-    std::printf("%s\n", conflict.describe());
-    return 0;
+    return std::puts(conflict.describe()) < 0;
 }
