@@ -115,8 +115,8 @@ private slots:
         QCOMPARE(tile->styleSheet(), Tile::styleTileNormal);
     }
 
+    // Style, text, visibility and enabled state are assigned only when they change.
     void unchangedUpdateTouchesNothing() {
-        // Style, text, visibility and enabled state are assigned only when they change.
         struct Counter : QObject {
             int count = 0;
             bool eventFilter(QObject*, QEvent* e) override {
@@ -128,15 +128,13 @@ private slots:
         } counter;
         tile->installEventFilter(&counter);
         for (QWidget* w : tile->findChildren<QWidget*>()) w->installEventFilter(&counter);
-        for (int value : {0, 6})
-            for (bool pencil : {false, true}) {
+        for (bool pencil : {false, true})
+            for (int value : {0, 6}) {
                 tile->showPencilMarks(pencil);
-                for (int pass : {0, 1}) {
-                    counter.count = 0;
-                    update(value, eng::originGiven, {2, 4, 6});
-                    tile->resetPotentialStyles();
-                    if (pass) QCOMPARE(counter.count, 0);
-                }
+                update(value, eng::originGiven, {2, 4, 6});
+                counter.count = 0;
+                update(value, eng::originGiven, {2, 4, 6});
+                QCOMPARE(counter.count, 0);
             }
     }
 
@@ -165,12 +163,9 @@ private slots:
         QCOMPARE(tile->value(), 7);
         QTest::keyClick(tile, Qt::Key_3);  // the tile has a value now
         QCOMPARE(edited.count(), 0);
-        for (auto key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) QTest::keyClick(tile, key);
-        for (auto dir : {Tile::Left, Tile::Right, Tile::Up, Tile::Down})
-            QCOMPARE(moved.takeFirst().at(1).value<Tile::CaretDirection>(), dir);
         QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_Down, Qt::NoModifier, QString(), true);
-        QApplication::sendEvent(tile, &repeated);  // a held arrow key keeps moving
-        QCOMPARE(moved.count(), 1);
+        QApplication::sendEvent(tile, &repeated);  // a held arrow key keeps moving (arrows: the window's walk)
+        QCOMPARE(moved.takeFirst().at(1).value<Tile::CaretDirection>(), Tile::Down);
 
         update(0);
         tile->showPencilCaret();
