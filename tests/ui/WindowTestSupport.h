@@ -49,14 +49,12 @@ struct MessageBoxAnswerer : QObject {
     explicit MessageBoxAnswerer(QMessageBox::StandardButton questionAnswer = QMessageBox::Yes)
         : answer(questionAnswer) {
         QObject::connect(&timer, &QTimer::timeout, [this] {
-            for (QWidget* w : QApplication::topLevelWidgets()) {
-                auto* box = qobject_cast<QMessageBox*>(w);
-                if (!box || !box->isVisible() || box->property("answered").toBool()) continue;
-                box->setProperty("answered", true);
-                texts << box->text();
-                if (QAbstractButton* b = box->button(answer) ? box->button(answer) : box->button(QMessageBox::Ok))
-                    b->click();
-            }
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || box->property("answered").toBool()) return;
+            box->setProperty("answered", true);
+            texts << box->text();
+            if (QAbstractButton* b = box->button(answer) ? box->button(answer) : box->button(QMessageBox::Ok))
+                b->click();
         });
         timer.start(10);
     }

@@ -166,17 +166,15 @@ private slots:
         acceptOptionsSoon();
         QTimer poll;  // acts once the preview shows its pages
         connect(&poll, &QTimer::timeout, [&] {
-            for (QWidget* w : QApplication::topLevelWidgets()) {
-                auto* preview = qobject_cast<QPrintPreviewDialog*>(w);
-                auto* pages = preview ? preview->findChild<QPrintPreviewWidget*>() : nullptr;
-                if (!pages || !preview->isVisible() || pages->pageCount() == 0) continue;
-                poll.stop();
-                pagesShown = pages->pageCount();
-                levelAfterFirst = window->levelText();
-                pages->setLandscapeOrientation();  // asks for the pages again
-                pagesAfterTurning = pages->pageCount();
-                preview->reject();
-            }
+            auto* preview = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+            auto* pages = preview ? preview->findChild<QPrintPreviewWidget*>() : nullptr;
+            if (!pages || pages->pageCount() == 0) return;
+            poll.stop();
+            pagesShown = pages->pageCount();
+            levelAfterFirst = window->levelText();
+            pages->setLandscapeOrientation();  // asks for the pages again
+            pagesAfterTurning = pages->pageCount();
+            preview->reject();
         });
         poll.start(20);
         window->printGame();

@@ -140,16 +140,15 @@ private slots:
 
     void input() {
         QSignalSpy single(tile, &Tile::singlePotentialDoubleClicked), edited(tile, &Tile::valueEdited);
-        QSignalSpy toggled(tile, &Tile::potentialsEdited), moved(tile, &Tile::moveCaret);
+        QSignalSpy moved(tile, &Tile::moveCaret);
         // A double click on a tile with a single candidate shown offers it.
         tile->showPencilMarks(true);
         update(0, 0, {6});
         QTest::mouseDClick(tile, Qt::RightButton);
-        QCOMPARE(single.count(), 1);
-        QCOMPARE(single.at(0), (QVariantList{37, 6}));
+        QCOMPARE(single.takeFirst(), (QVariantList{37, 6}));
         tile->showPencilMarks(false);  // not when the candidate is hidden
         QTest::mouseDClick(tile, Qt::LeftButton);
-        QCOMPARE(single.count(), 1);
+        QCOMPARE(single.count(), 0);
         tile->showPencilMarks(true);
 
         QTest::keyClick(tile, Qt::Key_5);  // no caret: nothing
@@ -166,12 +165,6 @@ private slots:
         QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_Down, Qt::NoModifier, QString(), true);
         QApplication::sendEvent(tile, &repeated);  // a held arrow key keeps moving (arrows: the window's walk)
         QCOMPARE(moved.takeFirst().at(1).value<Tile::CaretDirection>(), Tile::Down);
-
-        update(0);
-        tile->showPencilCaret();
-        QTest::keyClick(tile, Qt::Key_3);
-        QCOMPARE(toggled.takeFirst(), (QVariantList{37, 3}));
-        QVERIFY(label(3)->isHidden());
     }
 
     // A refused value blinks for 800 ms, a refused candidate flashes as long; then the tile is as before.
