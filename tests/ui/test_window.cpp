@@ -98,7 +98,6 @@ private slots:
     void startUpAndDeclinedNewGame() {
         const auto before = shownValues(*window);
         QVERIFY(std::count(before.begin(), before.end(), 0) < 64 && std::count(before.begin(), before.end(), 0) > 0);
-        savePicture(*window, "window_start");
         for (QAction* a : window->findChildren<QAction*>()) {  // tool-tip pictures come from the resources
             const QString tip = a->toolTip();
             const int at = tip.indexOf(":/Sudoku/Resources/");
@@ -199,11 +198,6 @@ private slots:
         QCOMPARE(dialog.selectedRules(), (Rules{eng::ruleSingles, eng::ruleHiddenSingles, eng::ruleDoubles}));
         expectClean(false);
         apply();
-        // Reordering "Available:" does not mark the dialog modified.
-        src->setCurrentRow(3);
-        dialog.moveCurrentItemDown();
-        QCOMPARE(src->item(4)->text(), QString("03. Singles Row + Col Only"));
-        expectClean(true);
         // Without a current row nothing moves and no entry is lost.
         dest->setCurrentItem(nullptr);
         dialog.dstSelectionChanged();
