@@ -6,6 +6,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <set>
@@ -271,14 +272,9 @@ private slots:
         QFile::remove(path);
         saveTo(path);
         QFile f(path);
-        QVERIFY(f.open(QIODevice::ReadWrite));
-        if (bytes == "-") {
-            f.remove();
-        } else {
-            f.resize(bytes.isEmpty() ? f.size() / 2 : 0);
-            f.write(bytes);
-        }
+        QVERIFY(f.open(QIODevice::ReadWrite) && f.resize(bytes.isEmpty() ? f.size() / 2 : 0) && f.write(bytes) >= 0);
         f.close();
+        if (bytes == "-") f.remove();
         MessageBoxAnswerer answerer;
         fileCommand("actionOpenGame", path);
         if (texts.isEmpty())  // whatever the reader says first, the open fails
@@ -301,10 +297,7 @@ private slots:
         if (geteuid() != 0) QSKIP("mounting a small tmpfs needs root");
         const QByteArray mnt = QFile::encodeName(dir.path());
         if (mount("tmpfs", mnt.constData(), "tmpfs", 0, "size=64k") != 0) QSKIP("cannot mount a tmpfs here");
-        struct Unmount {
-            const char* path;
-            ~Unmount() { umount2(path, MNT_DETACH); }
-        } unmount{mnt.constData()};
+        const auto unmount = qScopeGuard([&mnt] { umount2(mnt.constData(), MNT_DETACH); });
         const QString path = dir.filePath("game.sud");
         MessageBoxAnswerer answerer;
         auto contents = [&path] {
