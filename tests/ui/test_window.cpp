@@ -208,7 +208,7 @@ private slots:
         QVERIFY(dialog.selectedRules().empty());
         dialog.moveCurrentItemUp();
         QCOMPARE(src->count(), 16);
-        // Everything chosen: sixteen distinct rules in the order of the list.
+        // Everything chosen: sixteen distinct rules reach the board.
         src->selectAll();
         click("btnToDst");
         apply();
