@@ -1,6 +1,5 @@
 #pragma once
-// Shared helpers for the engine tests: an observer that writes down every
-// report, saving and loading through bytes, and reproducible seeding.
+// Shared helpers for the engine tests: an observer that writes down every report, saving and loading, seeding.
 #include <cstdlib>
 #include <sstream>
 #include <string>
@@ -11,8 +10,8 @@
 
 namespace testing_support {
 
-// One line per report. Cell lists are written as their size, or with
-// `detailed` as each cell's value, origin and candidates.
+// One line per report. Cell lists are written as their size, or with `detailed` as each cell's value, origin and
+// candidates.
 struct Transcript : eng::BoardObserver {
     bool detailed = false;
     std::string text, problem;  // problem: a cell list that was not the 81 cells in index order
@@ -53,8 +52,7 @@ inline bool load(eng::Board& b, const std::string& bytes) {
     return b.deserialize(in);
 }
 
-// The first board of a process seeds rand() from the clock; construct one
-// first so that a later srand() makes the games reproducible.
+// The first board of a process seeds rand() from the clock: construct one before srand().
 inline void seedRandom(unsigned seed) {
     static eng::Board first(nullptr);
     std::srand(seed);

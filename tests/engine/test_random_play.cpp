@@ -1,8 +1,6 @@
-// Random play through the board's public operations at every level. After
-// every step the position must keep the invariants of a game, survive a save
-// and a load byte for byte, and the loaded board must answer the next
-// operation exactly as the original does. SUDOKU_RANDOM_PLAY_SESSIONS sets the
-// number of sessions (scripts/random-play.sh runs long ones).
+// Random play at every level: after every step the position keeps the invariants of a game, survives a save and a
+// load byte for byte, and the loaded board answers the next operation exactly as the original does.
+// SUDOKU_RANDOM_PLAY_SESSIONS sets the number of sessions (scripts/random-play.sh runs long ones).
 #include <gtest/gtest.h>
 
 #include <memory>

@@ -1,8 +1,6 @@
-// Recorded games: fixed seeds and calls must give the very same games, move for
-// move, digested (FNV-1a 64) through every cell's value, origin and candidates,
-// the stored solution and the saved-game bytes (history, attempt, search
-// counters). The digests were taken before the rules were rewritten on bit
-// masks; any change in the games, in the order of rand() calls or in what a
+// Recorded games: fixed seeds and calls must give the very same games, move for move, digested (FNV-1a 64) through
+// every cell's value, origin and candidates, the stored solution and the saved-game bytes. The digests were taken
+// before the rules were rewritten on bit masks; any change in the games, in the order of rand() calls or in what a
 // rule removes shows up here.
 #include <gtest/gtest.h>
 
