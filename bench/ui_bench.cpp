@@ -136,8 +136,7 @@ public:
 
 // Starts the way the program does, up to the shown window.
 int startUpChild(int argc, char** argv) {
-    enableHighDpiScaling();
-    useRasterWindowsOnly();
+    prepareApplication();
     QElapsedTimer t;
     t.start();
     QApplication app(argc, argv);
@@ -158,8 +157,7 @@ int startUpChild(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (argc > 1 && std::strcmp(argv[1], "--startup-child") == 0) return startUpChild(argc, argv);
-    enableHighDpiScaling();
-    useRasterWindowsOnly();
+    prepareApplication();
     QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -84,7 +84,6 @@ public:
     enum PlaceKind { placeFill, placeReveal, placeHint, placePlayer, placePlayerUserEdit, placeSearch };
 
 private:
-
     eng_priv::MasterSolution masterSolution;
     std::deque<std::unique_ptr<eng_priv::BoardSnapshot>> history;
     std::deque<std::unique_ptr<eng_priv::BoardSnapshot>> undone;

@@ -22,3 +22,9 @@ inline void enableHighDpiScaling() {
 // driver, which alone took longer than building the whole window. Must run
 // before the application object is created.
 inline void useRasterWindowsOnly() { QApplication::setAttribute(Qt::AA_ForceRasterWidgets); }
+
+// Everything the program sets before its application object exists.
+inline void prepareApplication() {
+    enableHighDpiScaling();
+    useRasterWindowsOnly();
+}

@@ -19,22 +19,23 @@ constexpr QWidget::RenderFlags kRenderFlags = QWidget::DrawWindowBackground | QW
 
 void SudokuWindow::printGame() {
     if (busy) return;
+    PrintingInfo& options = printingOptions();
     {
         BusyScope scope(busy);
-        if (printingOptions().exec() != QDialog::Accepted) return;
+        if (options.exec() != QDialog::Accepted) return;
     }
-    QPrinter printer(printingOptions().highResolution() ? QPrinter::HighResolution : QPrinter::ScreenResolution);
-    if (printingOptions().exportToPdf()) printer.setOutputFormat(QPrinter::PdfFormat);
+    QPrinter printer(options.highResolution() ? QPrinter::HighResolution : QPrinter::ScreenResolution);
+    if (options.exportToPdf()) printer.setOutputFormat(QPrinter::PdfFormat);
     preparePrinter(printer);
 
-    if (printingOptions().showPrintPreview()) {
+    if (options.showPrintPreview()) {
         BusyScope scope(busy);
         QPrintPreviewDialog preview(&printer);
         connect(&preview, &QPrintPreviewDialog::paintRequested, this, &SudokuWindow::doPainting);
         preview.exec();
         return;
     }
-    if (printingOptions().exportToPdf()) {
+    if (options.exportToPdf()) {
         const QString name = askFileName(FileRequest::Pdf);
         if (name.isEmpty()) return;
         printer.setOutputFormat(QPrinter::PdfFormat);
@@ -81,7 +82,8 @@ void SudokuWindow::doPainting(QPrinter* printer) {
                                QPainter::SmoothPixmapTransform | QPainter::HighQualityAntialiasing);
         QT_WARNING_POP
         const int what = printingOptions().whatToPrint();
-        for (int pass = 0; pass < printingOptions().repeatCount(); ++pass) {
+        const int passes = printingOptions().repeatCount();
+        for (int pass = 0; pass < passes; ++pass) {
             if (pass > 0) printer->newPage();
             switch (what) {
             case 2: printTwoPerPage(pageMm, pageDevice, painter); break;

@@ -4,8 +4,7 @@
 #include "SudokuWindow.h"
 
 int main(int argc, char** argv) {
-    enableHighDpiScaling();
-    useRasterWindowsOnly();
+    prepareApplication();
     QApplication app(argc, argv);
     // Lets the desktop match the window to the installed entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));

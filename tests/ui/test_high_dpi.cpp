@@ -126,7 +126,7 @@ private slots:
 };
 
 int main(int argc, char** argv) {
-    enableHighDpiScaling();
+    prepareApplication();
     QApplication app(argc, argv);
     HighDpiTest test;
     return QTest::qExec(&test, argc, argv);
