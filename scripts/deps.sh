@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(
   build-essential cmake pkg-config
-  qtbase5-dev qtmultimedia5-dev libqt5multimedia5-plugins libqt5svg5
+  qtbase5-dev qtbase5-private-dev qtmultimedia5-dev libqt5multimedia5-plugins libqt5svg5
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev
   poppler-utils

@@ -12,6 +12,9 @@
 
 #include "ui_Tile.h"
 
+// The tile's style sheet is stored without Qt's own re-polish (see setTileSheet).
+#include <private/qwidget_p.h>
+
 const QString Tile::styleTileNormal = QStringLiteral("background-color: white;");
 const QString Tile::styleTileGiven = QStringLiteral("background-color: rgb(245, 245, 245);");
 const QString Tile::styleValueCaret = QStringLiteral("background-color: rgb(170, 255, 127);");
@@ -58,8 +61,11 @@ void setSheet(QWidget* widget, const QString& sheet) {
     if (widget->styleSheet() != sheet) widget->setStyleSheet(sheet);
 }
 
-void setShown(QWidget* widget, bool shown) {
-    if (widget->isHidden() == shown) widget->setVisible(shown);
+// What Qt does to each widget when a style sheet above it changes.
+void polishOnce(QWidget* widget) {
+    widget->style()->polish(widget);
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(widget, &change);
 }
 
 bool isEnabledHere(const QWidget* widget) { return !widget->testAttribute(Qt::WA_Disabled); }
@@ -85,6 +91,34 @@ Tile::Tile(QWidget* parent) : QWidget(parent), ui(new Ui::Tile) {
 
 Tile::~Tile() { delete ui; }
 
+// A new sheet on a polished widget makes Qt polish every widget below it twice,
+// hidden ones too: some 3 M instructions a tile, and a new game restyles about
+// 40 tiles. The tile's sheet is stored here without that; the tile and its
+// shown children are then polished once, parents first, as Qt would, and the
+// hidden labels when they are next shown (setShown).
+void Tile::setTileSheet(const QString& sheet) {
+    if (styleSheet() == sheet) return;
+    QWidgetPrivate* d = QWidgetPrivate::get(this);
+    const QMetaObject* polishedAs = d->polished;
+    d->polished = nullptr;
+    setStyleSheet(sheet);
+    d->polished = polishedAs;
+    if (!polishedAs) return;  // the first polish reads the sheet
+    polishOnce(this);
+    for (QWidget* child : findChildren<QWidget*>()) {
+        if (!child->isHidden())
+            polishOnce(child);
+        else if (!unpolished.contains(child))
+            unpolished.append(child);
+    }
+}
+
+void Tile::setShown(QWidget* widget, bool shown) {
+    if (widget->isHidden() != shown) return;
+    if (shown && unpolished.removeOne(widget)) polishOnce(widget);
+    widget->setVisible(shown);
+}
+
 int Tile::index() const { return index_; }
 
 void Tile::setIndex(int index) { index_ = index; }
@@ -99,13 +133,13 @@ void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
         // polished tile. The normal sheet looks like the form's white, and
         // reaches the screen with the next restyle.
         if (base == &styleTileGiven && !testAttribute(Qt::WA_WState_Polished)) {
-            setSheet(this, styleTileGiven);
+            setTileSheet(styleTileGiven);
             // Asking the style about the tile makes its first polish read the
             // sheet afresh: the tile and its children are polished once, grey.
             style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, this);
             ensurePolished();
         } else if (base) {
-            setSheet(this, *base);
+            setTileSheet(*base);
         }
     } else if (cell.value() == value()) {
         // Still the highlighted value: stays pink, and ends on its new base.
@@ -114,7 +148,7 @@ void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
         // The value went away: so does the highlight, or the tile would turn
         // pink again with no highlighted value on it.
         highlighted = false;
-        setSheet(this, base ? *base : savedStyleSheet);
+        setTileSheet(base ? *base : savedStyleSheet);
     }
 
     const bool filled = cell.value() != 0;
@@ -159,13 +193,13 @@ void Tile::resetPotentialStyles() {
 }
 
 void Tile::showValueCaret() {
-    setSheet(this, styleValueCaret);
+    setTileSheet(styleValueCaret);
     caretMode = ValueCaret;
     setFocus(Qt::OtherFocusReason);
 }
 
 void Tile::showPencilCaret() {
-    setSheet(this, stylePencilCaret);
+    setTileSheet(stylePencilCaret);
     caretMode = PencilCaret;
     setFocus(Qt::OtherFocusReason);
 }
@@ -175,9 +209,9 @@ Tile::CaretMode Tile::hideCaret() {
     if (highlighted) {
         // The highlight survives the caret and ends on a white tile.
         savedStyleSheet = styleTileNormal;
-        setSheet(this, styleHighlight);
+        setTileSheet(styleHighlight);
     } else {
-        setSheet(this, styleTileNormal);
+        setTileSheet(styleTileNormal);
     }
     caretMode = NoCaret;
     return previous;
@@ -194,12 +228,12 @@ void Tile::highlightValue(int newValue, int oldValue) {
         styleSheet() == styleHighlight)
         return;
     if (oldValue != 0 && value() == oldValue && highlighted) {
-        setSheet(this, savedStyleSheet);
+        setTileSheet(savedStyleSheet);
         highlighted = false;
     }
     if (newValue != 0 && value() == newValue) {
         if (!highlighted) savedStyleSheet = styleSheet();
-        setSheet(this, styleHighlight);
+        setTileSheet(styleHighlight);
         highlighted = true;
     }
 }
@@ -228,14 +262,14 @@ bool Tile::pause() {
 void Tile::rejectValue() {
     if (animating) return;
     animating = true;
-    setSheet(this, styleRejectedValue);
+    setTileSheet(styleRejectedValue);
     for (int step = 0; step < kAnimationSteps; ++step) {
         if (!pause()) return;
         setShown(valueLabel, valueLabel->isHidden());
     }
-    setSheet(this, styleValueCaret);
+    setTileSheet(styleValueCaret);
     valueLabel->setText(QStringLiteral("0"));
-    valueLabel->hide();
+    setShown(valueLabel, false);
     for (QLabel* label : potentials) setShown(label, pencilMarksShown);
     animating = false;
 }
@@ -306,13 +340,13 @@ void Tile::keyReleaseEvent(QKeyEvent* event) {
 
 void Tile::showValue(int v) {
     valueLabel->setText(QString::number(v));
-    valueLabel->show();
-    for (QLabel* label : potentials) label->hide();
+    setShown(valueLabel, true);
+    for (QLabel* label : potentials) setShown(label, false);
 }
 
 void Tile::togglePotential(int v) {
     QLabel* label = potentials[v - 1];
-    label->setVisible(!label->isVisible());
+    setShown(label, label->isHidden());
 }
 
 int Tile::singleEnabledPotential() const {

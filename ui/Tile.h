@@ -2,6 +2,7 @@
 // The widget that shows one of the 81 cells: a big digit, or a 3x3 grid of
 // pencil marks, on a background that tells given, caret and highlight apart.
 
+#include <QList>
 #include <QMetaType>
 #include <QString>
 #include <QWidget>
@@ -88,7 +89,10 @@ private:
     bool highlighted;
     QString savedStyleSheet;
     bool animating = false;
+    QList<QWidget*> unpolished;  // hidden labels still styled for an earlier tile sheet
 
+    void setTileSheet(const QString& sheet);
+    void setShown(QWidget* widget, bool shown);
     void showValue(int v);
     void togglePotential(int v);
     int singleEnabledPotential() const;

@@ -28,7 +28,8 @@ QT_QPA_PLATFORM=offscreen timeout 5 "$program" 2>/dev/null || status=$?
 (cd "$tmp" && cpack --config "$build/CPackConfig.cmake" -B "$tmp/deb" >/dev/null)
 deb=$(echo "$tmp"/deb/sudoku-vantu_*.deb)
 dpkg-deb --field "$deb" Section | grep -qx games
-dpkg-deb --field "$deb" Depends | grep -q libqt5widgets5  # found by dpkg-shlibdeps
+# The Qt build the game was made against, then what dpkg-shlibdeps found.
+dpkg-deb --field "$deb" Depends | grep -q '^qtbase-abi-5-15-[0-9]*, .*libqt5widgets5'
 contents=$(dpkg-deb --contents "$deb")
 for path in usr/bin/sudoku-vantu "usr/share/applications/${desktop##*/}" usr/share/metainfo/ \
             "usr/share/icons/hicolor/256x256/apps/$icon.png"; do
