@@ -1,6 +1,7 @@
 #include "PencilMarksOptions.h"
 
 #include <QPushButton>
+#include <algorithm>
 
 #include "ui_PencilMarksOptions.h"
 
@@ -40,11 +41,13 @@ eng::Rules ruleOf(const QListWidgetItem* item) { return static_cast<eng::Rules>(
 PencilMarksOptions::PencilMarksOptions(QWidget* parent) : QDialog(parent), ui(new Ui::PencilMarksOptions) {
     qRegisterMetaType<eng::Rules>("eng::Rules");
     ui->setupUi(this);
+    const std::list<eng::Rules> initial = initialRules();
     for (const RuleEntry& entry : kEntries) {
         auto* item = new QListWidgetItem(QIcon(QStringLiteral(":/Sudoku/Resources/") + entry.icon),
                                          QString::fromUtf8(entry.text));
         item->setData(Qt::UserRole, static_cast<int>(entry.rule));
-        (entry.rule == eng::ruleSingles ? ui->lstDest : ui->lstSrc)->addItem(item);
+        const bool selected = std::find(initial.begin(), initial.end(), entry.rule) != initial.end();
+        (selected ? ui->lstDest : ui->lstSrc)->addItem(item);
     }
     setWindowTitle(tr(kTitle));
     ui->buttonBox->setEnabled(false);

@@ -24,6 +24,8 @@ public:
 
     // The rules of the "Selected:" list, top to bottom.
     std::list<eng::Rules> selectedRules() const;
+    // What the "Selected:" list holds when the dialog is built.
+    static std::list<eng::Rules> initialRules() { return {eng::ruleSingles}; }
 
 signals:
     void applyRule(eng::Rules rule);

@@ -37,7 +37,7 @@ const char* levelLabel(int level) {
 }  // namespace
 
 SudokuWindow::SudokuWindow(QWidget* parent)
-    : QMainWindow(parent), ui(new Ui::SudokuWindowClass), pencilMarksOptions(nullptr) {
+    : QMainWindow(parent), ui(new Ui::SudokuWindowClass) {
     ui->setupUi(this);
     // One walk over the board finds all 81 tiles; the form gives each its index.
     for (Tile* tile : ui->boardWidget->findChildren<Tile*>())
@@ -55,9 +55,6 @@ SudokuWindow::SudokuWindow(QWidget* parent)
         connect(tile, &Tile::potentialsEdited, this, &SudokuWindow::tilePotentialsEdited);
         connect(tile, &Tile::moveCaret, this, &SudokuWindow::tileMoveCaret);
     }
-    connect(&pencilMarksOptions, &PencilMarksOptions::applyRule, this, &SudokuWindow::applyPencilmarksRule);
-    connect(&pencilMarksOptions, &PencilMarksOptions::applyRules, this, &SudokuWindow::applyPencilmarksRules);
-
     // The window is as large as its board and cannot be resized or maximised.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
@@ -80,6 +77,21 @@ SudokuWindow::~SudokuWindow() {
     delete ui;
 }
 
+// The option dialogs are built when first needed; until then the pencil-mark
+// rules are the dialog's initial choice.
+PencilMarksOptions& SudokuWindow::pencilMarksDialog() {
+    if (!pencilMarksOptions) {
+        pencilMarksOptions = std::make_unique<PencilMarksOptions>(nullptr);
+        connect(pencilMarksOptions.get(), &PencilMarksOptions::applyRule, this, &SudokuWindow::applyPencilmarksRule);
+        connect(pencilMarksOptions.get(), &PencilMarksOptions::applyRules, this, &SudokuWindow::applyPencilmarksRules);
+    }
+    return *pencilMarksOptions;
+}
+
+std::list<eng::Rules> SudokuWindow::selectedRules() const {
+    return pencilMarksOptions ? pencilMarksOptions->selectedRules() : PencilMarksOptions::initialRules();
+}
+
 PrintingInfo& SudokuWindow::printingOptions() {
     if (!printingInfo) printingInfo = std::make_unique<PrintingInfo>(nullptr);
     return *printingInfo;
@@ -91,7 +103,7 @@ bool SudokuWindow::pencilMarksShown() const { return ui->actionViewPencilMarks->
 
 void SudokuWindow::closeEvent(QCloseEvent* event) {
     closing = true;
-    pencilMarksOptions.close();
+    if (pencilMarksOptions) pencilMarksOptions->close();
     QCoreApplication::quit();
     event->accept();
 }
@@ -270,7 +282,7 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
     hideCaretIfAny();
     delete board;
     board = new eng::Board(this);
-    board->setPencilMarksRules(pencilMarksOptions.selectedRules());
+    board->setPencilMarksRules(selectedRules());
     bool generated = false;
     {
         BusyScope scope(busy);
@@ -422,7 +434,7 @@ void SudokuWindow::applyPencilmarksRule(eng::Rules rule) {
     markChanges = false;
 }
 
-void SudokuWindow::applyPencilmarksRules() { setRules(pencilMarksOptions.selectedRules()); }
+void SudokuWindow::applyPencilmarksRules() { setRules(selectedRules()); }
 
 void SudokuWindow::setRules(const std::list<eng::Rules>& rules) {
     if (!board) return;
@@ -486,8 +498,9 @@ void SudokuWindow::viewPencilMarks(bool checked) {
 
 void SudokuWindow::viewPencilMarksOptions() {
     const QRect frame = frameGeometry();
-    pencilMarksOptions.move(frame.right() + 1, frame.top());
-    pencilMarksOptions.show();
+    PencilMarksOptions& dialog = pencilMarksDialog();
+    dialog.move(frame.right() + 1, frame.top());
+    dialog.show();
 }
 
 // ---------------------------------------------------------------------------

@@ -48,7 +48,7 @@ public:
     int caret() const { return caretIndex; }
     int highlight() const { return highlightedValue; }
     PrintingInfo& printingOptions();
-    PencilMarksOptions& pencilMarksDialog() { return pencilMarksOptions; }
+    PencilMarksOptions& pencilMarksDialog();
     QString levelText() const;
     // A4 portrait, full page, no margins: how every print starts.
     static void preparePrinter(QPrinter& printer);
@@ -97,7 +97,7 @@ private:
     eng::Board* board = nullptr;
     // Built when first asked for: most runs never print.
     std::unique_ptr<PrintingInfo> printingInfo;
-    PencilMarksOptions pencilMarksOptions;
+    std::unique_ptr<PencilMarksOptions> pencilMarksOptions;
     int caretIndex = -1;
     bool markChanges = false;
     int highlightedValue = 0;
@@ -155,6 +155,7 @@ private:
     void reapplyHighlight();
     void redrawTile(int index);
     void setRules(const std::list<eng::Rules>& rules);
+    std::list<eng::Rules> selectedRules() const;
 
     void printOnePerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter, QPrinter* printer);
     void printTwoPerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter);
