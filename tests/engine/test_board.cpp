@@ -115,10 +115,7 @@ TEST_F(Game, MakeMoveSearchesAMoveAndCompletesAnEnteredGrid) {
     // On the first position candidates go in place, and a cell keeps its last one.
     for (int v = 1; v <= 9; ++v) ASSERT_TRUE(v == grid[80] || board.togglePotential(80, v));
     EXPECT_FALSE(board.togglePotential(80, grid[80]) || board.retract());
-    for (int i = 0; i < 81; ++i)
-        if (i % 5 != 0) {
-            ASSERT_TRUE(board.setValue(i, grid[i]));
-        }
+    for (int i = 0; i < 81; ++i) ASSERT_TRUE(i % 5 == 0 || board.setValue(i, grid[i]));
     for (int moves = 0; !board.isComplete() && moves < 200; ++moves) ASSERT_TRUE(board.makeMove());
     EXPECT_EQ(values(board), grid);
     EXPECT_FALSE(board.makeMove());  // nothing left to search
