@@ -386,48 +386,42 @@ private slots:
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{"fill", "game.sud"}));
     }
 
-    // Closing during a refusal blink: input meanwhile is ignored and the board untouched.
-    void closeDuringRefusalAnimation() {
-        eng::Board* board = window->currentBoard();
-        const size_t history = board->historySize();
-        const int i = firstEmpty(*window);
-        QTimer::singleShot(300, window, [this, i] {
-            QTest::mouseClick(window->tileAt(i == 0 ? 1 : 0), Qt::LeftButton);
-            trigger(*window, "actionMakeMove");
-            trigger(*window, "actionOpenGame");
-            window->close();
-        });
-        clickThenKey(i, Qt::Key(Qt::Key_0 + board->solutionValue(i) % 9 + 1));
-        QVERIFY(!window->isVisible());
-        QVERIFY(!window->tileAt(i)->hasValue());
-        QCOMPARE(window->currentBoard(), board);
-        QCOMPARE(board->historySize(), history);
+    // Closing during a refusal blink or the completion sweep: clicks and commands meanwhile are ignored, the board
+    // keeps what the entry made of it and no message box is left waiting.
+    void closeDuringAnimation_data() {
+        QTest::addColumn<bool>("completing");
+        QTest::newRow("refusal") << false;
+        QTest::newRow("celebration") << true;
     }
-
-    // Closing during the completion sweep: clicks and commands meanwhile are
-    // ignored, no message box is left waiting.
-    void closeDuringCelebration() {
+    void closeDuringAnimation() {
+        QFETCH(bool, completing);
         MessageBoxAnswerer answerer;
         trigger(*window, "actionNewGameVeryEasy");
         eng::Board* board = window->currentBoard();
-        int last = -1;
-        for (int i = firstEmpty(*window); i >= 0; i = firstEmpty(*window, i)) {
-            if (last >= 0) QVERIFY(board->setValue(last, board->solutionValue(last)));
+        int last = firstEmpty(*window);
+        for (int i = firstEmpty(*window, last); completing && i >= 0; i = firstEmpty(*window, i)) {
+            QVERIFY(board->setValue(last, board->solutionValue(last)));
             last = i;
         }
+        const size_t history = board->historySize();
         answerer.texts.clear();
-        QTimer::singleShot(400, window, [this] {
+        QTimer::singleShot(300, window, [this] {
             QTest::mouseClick(window->tileAt(0), Qt::LeftButton);
             trigger(*window, "actionRetractMove");
+            trigger(*window, "actionMakeMove");
+            trigger(*window, "actionOpenGame");
             trigger(*window, "actionNewGameHard");
             window->close();
         });
         QElapsedTimer timer;
         timer.start();
-        window->tileValueEdited(last, board->solutionValue(last));
+        const int v = board->solutionValue(last);
+        clickThenKey(last, Qt::Key(Qt::Key_0 + (completing ? v : v % 9 + 1)));
         QVERIFY(timer.elapsed() < 2500);
-        QVERIFY(board->isComplete());
+        QVERIFY(!window->isVisible());
         QCOMPARE(window->currentBoard(), board);
+        QCOMPARE(board->historySize(), history + completing);
+        QCOMPARE(window->tileAt(last)->hasValue(), completing);
         QVERIFY(answerer.texts.isEmpty());
     }
 
