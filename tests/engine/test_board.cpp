@@ -1,5 +1,4 @@
-// The board facade: generated levels, placing values, pencil marks, rules,
-// history and make move.
+// The board facade: generated levels, placing values, pencil marks, rules, history and make move.
 #include <gtest/gtest.h>
 
 #include <algorithm>

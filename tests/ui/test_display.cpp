@@ -1,7 +1,6 @@
-// The game on a real X server (run under scripts/with-display.sh): what the
-// player sees is read back from the server, not from the widgets. The scaling
-// checks (every text of the main window and its three dialogs fits its widget,
-// icons have pictures for twice the size) run again at 120, 144 and 192 dpi.
+// The game on a real X server (run under scripts/with-display.sh): what the player sees is read back from the server,
+// not from the widgets. The scaling checks (every text of the main window and its three dialogs fits its widget, icons
+// have pictures for twice the size) run again at 120, 144 and 192 dpi.
 #include <xcb/xcb.h>
 
 #include <QCheckBox>

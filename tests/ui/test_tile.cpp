@@ -1,5 +1,4 @@
-// The cell widget: what it shows in each state, its input signals and the
-// feedback animations.
+// The cell widget: what it shows in each state, its input signals and the feedback animations.
 #include <QLabel>
 #include <QSignalSpy>
 

@@ -1,6 +1,5 @@
-// The main window: start-up, game commands, caret and highlight, view options,
-// open and save, printing (where the boards land on the page for each layout,
-// page counts, the games generated for printing, the print command and its
+// The main window: start-up, game commands, caret and highlight, view options, open and save, printing (where the
+// boards land on the page for each layout, page counts, the games generated for printing, the print command and its
 // preview), and closing it in the middle of things.
 #include <sys/mount.h>
 #include <unistd.h>
@@ -37,8 +36,7 @@ QVector<QImage> renderPages(const QString& pdf) {
     return pages;
 }
 
-// Every dark pixel lies inside one of the boards (mm), and each board has its
-// frame down its left side.
+// Every dark pixel lies inside one of the boards (mm), and each board has its frame down its left side.
 void expectInkOnlyIn(const QImage& page, const QVector<QRectF>& boards) {
     int stray = 0;
     for (int y = 0; y < page.height(); ++y)
