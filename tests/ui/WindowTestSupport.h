@@ -46,8 +46,7 @@ struct MessageBoxAnswerer : QObject {
     QStringList texts;
     QMessageBox::StandardButton answer;
     QTimer timer;
-    explicit MessageBoxAnswerer(QMessageBox::StandardButton questionAnswer = QMessageBox::Yes)
-        : answer(questionAnswer) {
+    explicit MessageBoxAnswerer(QMessageBox::StandardButton reply = QMessageBox::Yes) : answer(reply) {
         QObject::connect(&timer, &QTimer::timeout, [this] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box || box->property("answered").toBool()) return;
