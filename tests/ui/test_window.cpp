@@ -1,6 +1,5 @@
-// The main window: start-up, game commands, caret and highlight, view options, open and save, printing (where the
-// boards land on the page for each layout, page counts, the games generated for printing, the print command and its
-// preview), and closing it in the middle of things.
+// The main window: start-up, game commands, caret and highlight, view options, open and save, printing (page layouts,
+// the games printed, the print command and its preview), and closing it in the middle of things.
 #include <sys/mount.h>
 #include <unistd.h>
 
