@@ -206,11 +206,9 @@ private slots:
         QTest::mouseClick(window->tileAt(a), Qt::LeftButton);
         window->activateWindow();
         QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeWindow() == window, 10000);
-        QStringList keys{QString::number(board->solutionValue(a)), "Right", QString::number(board->solutionValue(b)),
-                         "Right", QString::number(board->solutionValue(c))};
-        QTimer::singleShot(0, window, [&] {
-            QProcess::startDetached("xdotool", QStringList{"key", "--delay", "40"} + keys);
-        });
+        auto digit = [board](int i) { return QString::number(board->solutionValue(i)); };
+        const QStringList keys{"key", "--delay", "40", digit(a), "Right", digit(b), "Right", digit(c)};
+        QTimer::singleShot(0, window, [&] { QProcess::startDetached("xdotool", keys); });
         // Red pixels inside the tile's border: the struck-through digit is shown.
         auto digitShown = [](const QImage& image) { return countPixels(image, red) > 20 ? 'V' : 'h'; };
         const QString runs = sampleDuring(window->tileAt(a), QRect(8, 8, 44, 44), digitShown, [&] {

@@ -446,10 +446,8 @@ private slots:
             QCOMPARE(window->levelText(), QString("difficulty: Very Easy"));
             std::srand(321);
             eng::Board last(nullptr);
-            for (int g = 0; g < repeat * boards.size(); ++g) {
-                last.setPencilMarksRules(window->pencilMarksDialog().selectedRules());
-                QVERIFY(last.generate(eng::lvlVeryEasy));
-            }
+            last.setPencilMarksRules(window->pencilMarksDialog().selectedRules());
+            for (int g = 0; g < repeat * boards.size(); ++g) QVERIFY(last.generate(eng::lvlVeryEasy));
             for (int i = 0; i < 81; ++i) QCOMPARE(window->tileAt(i)->value(), last.cell(i)->value());
         }
         const auto pages = renderPages(pdf);
