@@ -1,7 +1,6 @@
 // The main window: start-up, game commands, caret and highlight, view options, open and save, printing (page layouts,
 // the games printed, the print command and its preview), and closing it in the middle of things.
 #include <sys/mount.h>
-#include <unistd.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -353,9 +352,8 @@ private slots:
 
     void failedSaveKeepsThePreviousFile() {
         // A 64 KiB file system that fills up between two saves.
-        if (geteuid() != 0) QSKIP("mounting a small tmpfs needs root");
         const QByteArray mnt = QFile::encodeName(dir.path());
-        if (mount("tmpfs", mnt.constData(), "tmpfs", 0, "size=64k") != 0) QSKIP("cannot mount a tmpfs here");
+        if (mount("tmpfs", mnt.constData(), "tmpfs", 0, "size=64k") != 0) QSKIP("cannot mount a tmpfs (needs root)");
         const auto unmount = qScopeGuard([&mnt] { umount2(mnt.constData(), MNT_DETACH); });
         const QString path = dir.filePath("game.sud");
         MessageBoxAnswerer answerer;
