@@ -83,7 +83,6 @@ private slots:
     }
 
     void caretAndHighlight() {
-        update(0);
         tile->showValueCaret();
         update(0);  // updates keep the caret colour
         QCOMPARE(tile->styleSheet(), Tile::styleValueCaret);
@@ -142,7 +141,6 @@ private slots:
         tile->showPencilMarks(false);  // not when the candidate is hidden
         QTest::mouseDClick(tile, Qt::LeftButton);
         QCOMPARE(single.count(), 0);
-        tile->showPencilMarks(true);
 
         QTest::keyClick(tile, Qt::Key_5);  // no caret: nothing
         QTest::keyClick(tile, Qt::Key_Left);
