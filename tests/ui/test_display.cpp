@@ -1,6 +1,5 @@
 // The game on a real X server (run under scripts/with-display.sh): what the player sees is read back from the server,
-// not from the widgets. The scaling checks (every text of the main window and its three dialogs fits its widget, icons
-// have pictures for twice the size) run again at 120, 144 and 192 dpi.
+// not from the widgets. The checks that texts fit and icons are sharp run again at 120, 144 and 192 dpi.
 #include <xcb/xcb.h>
 
 #include <QCheckBox>
@@ -277,7 +276,7 @@ private slots:
         checkHighlight("value entered");
     }
 
-    // The scaling checks, after the others: they start new games.
+    // Every text of the window and its three dialogs fits; after the other checks, as these start new games.
     void mainWindowTextsFitAtEveryLevel_data() {
         QTest::addColumn<QString>("action");
         QTest::addColumn<QString>("level");
