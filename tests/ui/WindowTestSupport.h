@@ -40,8 +40,7 @@ inline std::vector<int> shownValues(SudokuWindow& w) {
     return v;
 }
 
-// Answers every message box that appears while it lives: records its text and
-// presses the chosen button (Ok, or Yes/No for questions).
+// Answers every message box shown while it lives: records its text, presses `answer` (Ok when the box lacks it).
 struct MessageBoxAnswerer : QObject {
     QStringList texts;
     QMessageBox::StandardButton answer;

@@ -197,8 +197,7 @@ private slots:
         window->showNormal();
     }
 
-    // A refused value blinks visible, hidden, visible, hidden on screen, and a
-    // burst of keys typed by the player meanwhile all reaches the engine.
+    // A refused value blinks visible, hidden, visible, hidden on screen; a burst of keys typed meanwhile all counts.
     void blinkAndTypingDuringIt() {
         eng::Board* board = window->currentBoard();
         const int a = firstEmpty(*window), b = firstEmpty(*window, a), c = firstEmpty(*window, b);
@@ -237,8 +236,7 @@ private slots:
         QTest::mouseClick(window->tileAt(a), Qt::RightButton);
     }
 
-    // No tile stays pink without the highlighted value: across a new game,
-    // make move and retract, a value entered, and the clicks that used to leave one.
+    // No tile stays pink without the highlighted value: after clicks, a new game, moves, retractions, a value entered.
     void noStaleHighlight() {
         const int v = window->tileAt(firstFilled())->value();
         QTest::mouseClick(window->tileAt(firstFilled()), Qt::LeftButton);
@@ -303,8 +301,7 @@ private slots:
         }
     }
 
-    // Where a pixel is more than one device pixel, toolbar icons and the
-    // about picture come from the pictures drawn at twice the size.
+    // On a scaled screen toolbar icons and the about picture come from the pictures drawn at twice the size.
     void iconsSharp() {
         const qreal ratio = window->devicePixelRatioF();
         if (ratio <= 1) QSKIP("the screen does not scale");

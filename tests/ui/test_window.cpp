@@ -104,8 +104,7 @@ class WindowTest : public QObject {
 
 private slots:
     void init() { window = shownWindow(); }
-    // Closing the window asks the application to quit, which ends every event
-    // loop started later; running the application's loop once clears that.
+    // A closed window asks the application to quit, which would end every later event loop; one run clears that.
     void cleanup() {
         delete window;
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
@@ -499,8 +498,7 @@ private slots:
     }
 
     void noEventIsProcessedWhileDrawing() {
-        // A timer that touched the preview in the middle of its pages would
-        // crash it: it fires only once the four generated games are drawn.
+        // A timer touching the preview between its pages would crash it: it fires once the four games are drawn.
         choose("radNewFourGames", 1, 1);
         bool fired = false;
         QTimer::singleShot(0, window, [&] { fired = true; });
