@@ -1,5 +1,4 @@
-// The board facade: generated levels, placing values, pencil marks, rules,
-// history and make move.
+// The board facade: generated levels, placing values, pencil marks, rules, history and make move.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -23,34 +22,22 @@ int filledCount(const Board& b) {
     return 81 - int(std::count(v.begin(), v.end(), 0));
 }
 
-template <int Level, Rules Rule>
 struct Game : ::testing::Test {
     Transcript observer;
     Board board{&observer};
 
-    void SetUp() override {
+    void start(int level, Rules rule) {
         testing_support::seedRandom(1234);
-        board.setPencilMarksRules({Rule});
-        ASSERT_TRUE(board.generate(Level));
+        board.setPencilMarksRules({rule});
+        ASSERT_TRUE(board.generate(level));
         ASSERT_EQ(observer.take(), "cellsChanged 81\n");
-    }
-    int firstEmpty(int from = 0) const {
-        while (board.cell(from)->value() != 0) ++from;
-        return from;
     }
 };
 
-// An Easy game whose player rules clear rows only, so empty cells keep
-// several candidates; and an empty User Edit game.
-using GeneratedGame = Game<lvlEasy, ruleSinglesRowOnly>;
-using UserEditGame = Game<lvlUserEdit, ruleSingles>;
-
 }  // namespace
 
-TEST(Generation, LevelsStartAGameAndReplaceTheLastOne) {
+TEST_F(Game, LevelsStartAGameAndReplaceTheLastOne) {
     testing_support::seedRandom(5);
-    Transcript observer;
-    Board board(&observer);
     // Without a game every operation does nothing.
     EXPECT_FALSE(board.setValue(0, 1) || board.togglePotential(0, 1) || board.makeMove() || board.retract() ||
                  board.isComplete());
@@ -83,9 +70,10 @@ TEST(Generation, LevelsStartAGameAndReplaceTheLastOne) {
     EXPECT_TRUE(board.generate(lvlHard) && !board.solution().forbidden);
 }
 
-TEST_F(GeneratedGame, ValuesAndPencilMarksAreCheckedAgainstTheSolution) {
-    int i = firstEmpty();
-    while (candidateCount(board.cell(i)) < 3) i = firstEmpty(i + 1);
+TEST_F(Game, ValuesAndPencilMarksAreCheckedAgainstTheSolution) {
+    start(lvlEasy, ruleSinglesRowOnly);  // rows only: empty cells keep several candidates
+    int i = 0;
+    while (board.cell(i)->value() || candidateCount(board.cell(i)) < 3) ++i;
     const int v = board.solutionValue(i), wrong = v % 9 + 1;
     EXPECT_TRUE(board.cell(81) == nullptr && board.cell(-1) == nullptr);
     for (int refused : {wrong, 0, 10}) EXPECT_FALSE(board.setValue(i, refused));
@@ -109,76 +97,8 @@ TEST_F(GeneratedGame, ValuesAndPencilMarksAreCheckedAgainstTheSolution) {
     EXPECT_TRUE(board.historySize() == 5 && board.cell(hinted)->origin() == originPlayer);
 }
 
-TEST_F(GeneratedGame, RetractedPositionsComeBackThenHintsCompleteTheSolution) {
-    const auto puzzle = values(board);
-    ASSERT_TRUE(board.retract());  // the empty first position
-    EXPECT_FALSE(filledCount(board) || board.retract());
-    ASSERT_TRUE(board.makeMove());
-    EXPECT_EQ(values(board), puzzle);
-    ASSERT_TRUE(board.makeMove());
-    const auto afterFirst = values(board);
-    ASSERT_TRUE(board.makeMove());
-    const auto afterSecond = values(board);
-    ASSERT_TRUE(board.retract() && board.retract());
-    // A new entry, then make move twice: the retracted positions return, newest first.
-    int i = firstEmpty();
-    while (afterSecond[i] != 0) i = firstEmpty(i + 1);
-    ASSERT_TRUE(board.setValue(i, board.solutionValue(i)));
-    ASSERT_TRUE(board.makeMove());
-    EXPECT_EQ(values(board), afterFirst);
-    ASSERT_TRUE(board.makeMove());
-    EXPECT_EQ(values(board), afterSecond);
-    EXPECT_EQ(board.historySize() * 10 + board.undoneSize(), 50u);
-    for (int moves = 0; !board.isComplete() && moves < 81; ++moves) ASSERT_TRUE(board.makeMove());
-    observer.take();
-    EXPECT_FALSE(board.makeMove());
-    EXPECT_EQ(observer.take(), "noMoreMoves 81\n");
-}
-
-TEST_F(GeneratedGame, PlayerRulesAreAppliedOnlyWhenTheyChangeSomething) {
-    board.setPencilMarksRules({ruleSinglesRowOnly});  // the puzzle is already narrowed by it
-    board.applyPencilMarksRule(static_cast<Rules>(5));
-    EXPECT_EQ(board.historySize(), 2u);
-    // A rule that removes candidates pushes a position and reports it once;
-    // the stored list is not changed by applying a single rule.
-    board.applyPencilMarksRule(ruleSingles);
-    EXPECT_EQ(board.historySize(), 3u);
-    EXPECT_EQ(observer.take(), "cellsChanged 81\n");
-    EXPECT_EQ(board.pencilMarksRulesList(), std::list<Rules>{ruleSinglesRowOnly});
-    ASSERT_TRUE(board.retract());
-    board.setPencilMarksRules({ruleSingles});
-    EXPECT_TRUE(board.historySize() == 3 && board.pencilMarksRulesList() == std::list<Rules>{ruleSingles});
-}
-
-TEST_F(UserEditGame, OnlyContradictionsAreRefused) {
-    EXPECT_EQ(board.solution().solution, nullptr);
-    for (int v = 1; v <= 8; ++v) ASSERT_TRUE(board.togglePotential(0, v));  // in place: the only position
-    EXPECT_FALSE(board.togglePotential(0, 9) || board.retract());
-    board.applyPencilMarksRule(ruleSingles);  // no rules on the first position
-    EXPECT_EQ(board.historySize(), 1u);
-    EXPECT_TRUE(board.setValue(0, 9) && board.cell(0)->origin() == originPlayer);
-    observer.take();
-    for (int i : {8, 72, 10}) EXPECT_FALSE(board.setValue(i, 9));  // same row, column, square
-    EXPECT_TRUE(board.setValue(40, 9));
-    EXPECT_FALSE(board.togglePotential(40, 8) || board.togglePotential(40, 9));  // a filled cell's candidates stay
-    EXPECT_EQ(observer.take(), "valueRefused 8 9\nvalueRefused 72 9\nvalueRefused 10 9\ncellsChanged 81\n"
-                               "potentialRefused 40 8\npotentialRefused 40 9\n");
-    // Now every removal pushes a position. Cells 20 and 21 keep {5, 6}, cell
-    // 22 {5, 6, 7}: taking 7 from 22 leaves three cells for two values.
-    const std::pair<int, std::string> kept[] = {{20, "56"}, {21, "56"}, {22, "567"}, {30, "4"}};
-    for (const auto& [cell, keep] : kept)
-        for (int v = 1; v <= 9; ++v)
-            if (keep.find(char('0' + v)) == std::string::npos && board.cell(cell)->isPotential(v)) {
-                ASSERT_TRUE(board.togglePotential(cell, v)) << cell << " " << v;
-            }
-    const size_t before = board.historySize();
-    observer.take();
-    EXPECT_FALSE(board.togglePotential(22, 7) || board.togglePotential(30, 4));  // 4 is cell 30's last candidate
-    EXPECT_EQ(observer.take(), "potentialRefused 22 7\npotentialRefused 30 4\n");
-    EXPECT_EQ(board.historySize(), before);
-}
-
-TEST_F(UserEditGame, MakeMoveSearchesAMoveAndCompletesAnEnteredGrid) {
+TEST_F(Game, MakeMoveSearchesAMoveAndCompletesAnEnteredGrid) {
+    start(lvlUserEdit, ruleSingles);
     // After a hundred guesses every make move places its first guess, reports and stops.
     std::string bytes = testing_support::saved(board);
     bytes[20] = 100;  // the guess count
@@ -187,19 +107,14 @@ TEST_F(UserEditGame, MakeMoveSearchesAMoveAndCompletesAnEnteredGrid) {
     EXPECT_FALSE(board.makeMove() || board.makeMove());
     EXPECT_TRUE(filledCount(board) == 2 && board.solution().guessCount == 102);
     EXPECT_EQ(observer.take(), "noMoreMoves 81\nnoMoreMoves 81\n");
-    ASSERT_TRUE(board.generate(lvlUserEdit));
-    ASSERT_TRUE(board.setValue(0, 1) && board.setValue(40, 2) && board.makeMove());
-    int moved = 0;
-    for (int i = 0; i < 81; ++i) moved += board.cell(i)->origin() == originMove;
-    EXPECT_TRUE(filledCount(board) == 3 && moved == 1);
     testing_support::seedRandom(31);
     ASSERT_TRUE(board.generate(lvlCompleted));
     const auto grid = values(board);
     ASSERT_TRUE(board.generate(lvlUserEdit));
-    for (int i = 0; i < 81; ++i)
-        if (i % 5 != 0) {
-            ASSERT_TRUE(board.setValue(i, grid[i]));
-        }
+    // On the first position candidates go in place, and a cell keeps its last one.
+    for (int v = 1; v <= 9; ++v) ASSERT_TRUE(v == grid[80] || board.togglePotential(80, v));
+    EXPECT_FALSE(board.togglePotential(80, grid[80]) || board.retract());
+    for (int i = 0; i < 81; ++i) ASSERT_TRUE(i % 5 == 0 || board.setValue(i, grid[i]));
     for (int moves = 0; !board.isComplete() && moves < 200; ++moves) ASSERT_TRUE(board.makeMove());
     EXPECT_EQ(values(board), grid);
     EXPECT_FALSE(board.makeMove());  // nothing left to search

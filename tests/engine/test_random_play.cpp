@@ -14,8 +14,7 @@ using eng::Board;
 using testing_support::saved;
 using testing_support::Transcript;
 
-// A board loaded from bytes; `rules` is given to it before loading, which
-// stores the list without running it.
+// A board loaded from bytes; `rules` is given to it before loading, which stores the list without running it.
 std::unique_ptr<Board> loaded(const std::string& bytes, Transcript* t, const std::list<eng::Rules>& rules) {
     auto b = std::make_unique<Board>(t);
     b->setPencilMarksRules(rules);

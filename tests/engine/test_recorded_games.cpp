@@ -32,9 +32,8 @@ struct Digest {
 const std::list<Rules> kPencilRules[3] = {
     {ruleSingles}, {}, {ruleSingles, ruleHiddenSingles, ruleDoubles, ruleLockedByRows, ruleLockedBySquares}};
 
-// A hundred games of a level: a generated game, then three hints; for User
-// Edit, entries of a valid grid on cells picked by the game number, then
-// four searched moves.
+// A hundred games of a level: a generated game, then three hints; for User Edit, entries of a valid grid on cells
+// picked by the game number, then four searched moves.
 uint64_t games(int level) {
     Digest d;
     for (int g = 0; g < 100; ++g) {

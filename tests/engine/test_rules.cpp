@@ -1,6 +1,5 @@
-// The rule families on hand-built positions: which tuples they clear, which
-// cells they skip, the order in which they meet contradictions, and how the
-// pass chains them together.
+// The rule families on hand-built positions: which tuples they clear, which cells they skip, the order in which they
+// meet contradictions, and how the pass chains them together.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -16,11 +15,10 @@ using eng_priv::RuleSolver;
 
 namespace {
 
-// Positions and expectations are written as tokens "CELLS op DIGITS", CELLS a
-// comma list of indices. In a position: ':' keeps only DIGITS, '-' removes
-// them, '*' places the value (narrowed, then set), '=' sets the value alone,
-// '!' and '~' set and clear the changed mark; "clean" clears every mark. In an
-// expectation: ':' is the exact candidate list, '+' has them all, '-' none.
+// Positions and expectations are written as tokens "CELLS op DIGITS", CELLS a comma list of indices. In a position: ':'
+// keeps only DIGITS, '-' removes them, '*' places the value (narrowed, then set), '=' sets the value alone, '!' and '~'
+// set and clear the changed mark; "clean" clears every mark. In an expectation: ':' is the exact candidate list, '+'
+// has them all, '-' none.
 void forTokens(const std::string& text, const std::function<void(int, char, const std::list<int>&)>& f) {
     std::istringstream in(text);
     for (std::string token; in >> token;) {

@@ -40,14 +40,12 @@ inline std::vector<int> shownValues(SudokuWindow& w) {
     return v;
 }
 
-// Answers every message box that appears while it lives: records its text and
-// presses the chosen button (Ok, or Yes/No for questions).
+// Answers every message box shown while it lives: records its text, presses `answer` (Ok when the box lacks it).
 struct MessageBoxAnswerer : QObject {
     QStringList texts;
     QMessageBox::StandardButton answer;
     QTimer timer;
-    explicit MessageBoxAnswerer(QMessageBox::StandardButton questionAnswer = QMessageBox::Yes)
-        : answer(questionAnswer) {
+    explicit MessageBoxAnswerer(QMessageBox::StandardButton reply = QMessageBox::Yes) : answer(reply) {
         QObject::connect(&timer, &QTimer::timeout, [this] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box || box->property("answered").toBool()) return;

@@ -1,20 +1,28 @@
-// The game on a real X server (run under scripts/with-display.sh): what the
-// player sees is read back from the server, not from the widgets.
+// The game on a real X server (run under scripts/with-display.sh): what the player sees is read back from the server,
+// not from the widgets. The checks that texts fit and icons are sharp run again at 120, 144 and 192 dpi.
 #include <xcb/xcb.h>
 
+#include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
+#include <QListWidget>
+#include <QRadioButton>
 #include <QScreen>
+#include <QStyleOption>
+#include <QTextDocument>
 #include <atomic>
 #include <functional>
 #include <thread>
 
+#include "AboutDialog.h"
+#include "HighDpi.h"
 #include "WindowTestSupport.h"
 
 namespace {
 
 const QRgb kGiven = 0xf5f5f5, kWhite = 0xffffff, kPink = 0xffaaff;
 
-QImage screenOf(SudokuWindow& w) { return w.screen()->grabWindow(w.winId()).toImage(); }
+QImage screenOf(QWidget& w) { return w.screen()->grabWindow(w.winId()).toImage(); }
 
 // The background of a tile as the server shows it, read inside its border.
 QRgb background(const QImage& shot, SudokuWindow& w, int index) {
@@ -69,6 +77,66 @@ QString sampleDuring(QWidget* widget, QRect area, char (*classify)(const QImage&
     done = true;
     worker.join();
     return runs;
+}
+
+// The room a button leaves for its text, from the style that draws it.
+QRect textRoom(QAbstractButton* b) {
+    QStyleOptionButton opt;
+    opt.initFrom(b);
+    opt.text = b->text();
+    QStyle::SubElement element = QStyle::SE_PushButtonContents;
+    if (qobject_cast<QCheckBox*>(b)) element = QStyle::SE_CheckBoxContents;
+    if (qobject_cast<QRadioButton*>(b)) element = QStyle::SE_RadioButtonContents;
+    return b->style()->subElementRect(element, &opt, b);
+}
+
+// The size a label's text needs, rich text laid out as the label lays it out.
+QSize textSize(QLabel* label) {
+    if (!Qt::mightBeRichText(label->text())) {  // one line of text: its ink must show
+        const QFontMetrics fm = label->fontMetrics();
+        if (label->wordWrap()) return fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text()).size();
+        return {fm.horizontalAdvance(label->text()), fm.tightBoundingRect(label->text()).height()};
+    }
+    QTextDocument doc;
+    doc.setDefaultFont(label->font());
+    doc.setDocumentMargin(0);
+    doc.setHtml(label->text());
+    if (!label->wordWrap()) return {int(std::ceil(doc.idealWidth())), 0};
+    doc.setTextWidth(label->contentsRect().width());
+    return {int(std::ceil(doc.idealWidth())), int(std::ceil(doc.size().height()))};
+}
+
+// Every visible text of `top` that does not fit, as "object: text (needed > room)".
+QStringList clipped(QWidget* top) {
+    QStringList out;
+    auto check = [&](QWidget* w, const QString& text, QSize needed, QSize room) {
+        if (needed.width() > room.width() || needed.height() > room.height())
+            out << QString::asprintf("%s: %s (%dx%d > %dx%d)", qPrintable(w->objectName()), qPrintable(text.left(60)),
+                                     needed.width(), needed.height(), room.width(), room.height());
+    };
+    for (QWidget* w : top->findChildren<QWidget*>()) {
+        if (!w->isVisibleTo(top)) continue;
+        if (auto* l = qobject_cast<QLabel*>(w); l && !l->text().isEmpty()) {
+            check(l, l->text(), textSize(l), l->contentsRect().size());
+        } else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty() && b->icon().isNull()) {
+            QString text = b->text();
+            text.remove(QRegularExpression("&(?!&)"));
+            check(b, text, {b->fontMetrics().horizontalAdvance(text), b->fontMetrics().height()}, textRoom(b).size());
+        } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
+            check(g, g->title(), {g->fontMetrics().horizontalAdvance(g->title()), 0}, g->contentsRect().size());
+        } else if (auto* list = qobject_cast<QListWidget*>(w)) {
+            check(list, "items", {list->sizeHintForColumn(0), 0}, list->viewport()->size());
+        }
+    }
+    return out;
+}
+
+// Every visible text fits, with a picture of what the screen shows, the scale in its name.
+void expectTextsFit(QWidget* w, const QString& name) {
+    w->repaint();
+    savePicture(screenOf(*w), QString("scale_%1_%2").arg(w->devicePixelRatioF(), 0, 'f', 2).arg(name));
+    const QStringList bad = clipped(w);
+    QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
 }
 
 }  // namespace
@@ -129,19 +197,16 @@ private slots:
         window->showNormal();
     }
 
-    // A refused value blinks visible, hidden, visible, hidden on screen, and a
-    // burst of keys typed by the player meanwhile all reaches the engine.
+    // A refused value blinks visible, hidden, visible, hidden on screen; a burst of keys typed meanwhile all counts.
     void blinkAndTypingDuringIt() {
         eng::Board* board = window->currentBoard();
         const int a = firstEmpty(*window), b = firstEmpty(*window, a), c = firstEmpty(*window, b);
         QTest::mouseClick(window->tileAt(a), Qt::LeftButton);
         window->activateWindow();
         QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeWindow() == window, 10000);
-        QStringList keys{QString::number(board->solutionValue(a)), "Right", QString::number(board->solutionValue(b)),
-                         "Right", QString::number(board->solutionValue(c))};
-        QTimer::singleShot(0, window, [&] {
-            QProcess::startDetached("xdotool", QStringList{"key", "--delay", "40"} + keys);
-        });
+        auto digit = [board](int i) { return QString::number(board->solutionValue(i)); };
+        const QStringList keys{"key", "--delay", "40", digit(a), "Right", digit(b), "Right", digit(c)};
+        QTimer::singleShot(0, window, [&] { QProcess::startDetached("xdotool", keys); });
         // Red pixels inside the tile's border: the struck-through digit is shown.
         auto digitShown = [](const QImage& image) { return countPixels(image, red) > 20 ? 'V' : 'h'; };
         const QString runs = sampleDuring(window->tileAt(a), QRect(8, 8, 44, 44), digitShown, [&] {
@@ -171,8 +236,7 @@ private slots:
         QTest::mouseClick(window->tileAt(a), Qt::RightButton);
     }
 
-    // No tile stays pink without the highlighted value: across a new game,
-    // make move and retract, a value entered, and the clicks that used to leave one.
+    // No tile stays pink without the highlighted value: after clicks, a new game, moves, retractions, a value entered.
     void noStaleHighlight() {
         const int v = window->tileAt(firstFilled())->value();
         QTest::mouseClick(window->tileAt(firstFilled()), Qt::LeftButton);
@@ -209,7 +273,52 @@ private slots:
         QCOMPARE(window->highlight(), right);
         checkHighlight("value entered");
     }
+
+    // Every text of the window and its three dialogs fits; after the other checks, as these start new games.
+    void mainWindowTextsFitAtEveryLevel_data() {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("level");
+        QTest::newRow("completed") << "actionNewGameCompleted" << "difficulty: none";
+        QTest::newRow("very easy") << "actionNewGameVeryEasy" << "difficulty: Very Easy";
+        QTest::newRow("user edit") << "actionNewGameUserEdit" << "difficulty: user edit";
+    }
+    void mainWindowTextsFitAtEveryLevel() {
+        QFETCH(QString, action);
+        MessageBoxAnswerer answerer;
+        trigger(*window, qPrintable(action));
+        QTEST(window->levelText(), "level");
+        expectTextsFit(window, "window_" + action);
+    }
+
+    void dialogTextsFit() {
+        PrintingInfo printing;
+        PencilMarksOptions pencilMarks;
+        AboutDialog about("1.0.4", window);
+        for (QDialog* dialog : std::initializer_list<QDialog*>{&printing, &pencilMarks, &about}) {
+            dialog->show();
+            QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
+            expectTextsFit(dialog, dialog->objectName());
+        }
+    }
+
+    // On a scaled screen toolbar icons and the about picture come from the pictures drawn at twice the size.
+    void iconsSharp() {
+        const qreal ratio = window->devicePixelRatioF();
+        if (ratio <= 1) QSKIP("the screen does not scale");
+        for (QAction* action : window->findChildren<QAction*>())
+            QVERIFY2(action->icon().isNull() || action->icon().availableSizes().contains(QSize(96, 96)),
+                     qPrintable(action->objectName()));
+        AboutDialog about("1.0.4", window);
+        auto* picture = child<QLabel>(about, "label");
+        QVERIFY(picture->pixmap(Qt::ReturnByValue).width() >= picture->width() * ratio - 1);
+    }
 };
 
-QTEST_MAIN(DisplayTest)
+int main(int argc, char** argv) {
+    prepareApplication();
+    QApplication app(argc, argv);
+    DisplayTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "test_display.moc"

@@ -1,12 +1,18 @@
-// The main window: start-up, game commands, caret and highlight, view options,
-// open and save, and closing it in the middle of things.
+// The main window: start-up, game commands, caret and highlight, view options, open and save, printing (page layouts,
+// the games printed, the print command and its preview), and closing it in the middle of things.
 #include <sys/mount.h>
-#include <unistd.h>
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QRadioButton>
 #include <QScopeGuard>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <set>
@@ -14,6 +20,44 @@
 #include "WindowTestSupport.h"
 
 using Rules = std::list<eng::Rules>;
+Q_DECLARE_METATYPE(QVector<QRectF>)
+
+namespace {
+
+constexpr double kPxPerMm = 30 / 25.4;  // pages are rendered at 30 dpi to look for ink
+
+QVector<QImage> renderPages(const QString& pdf) {
+    QVector<QImage> pages;
+    QProcess::execute("pdftoppm", {"-r", "30", "-png", pdf, pdf});
+    for (int k = 1; QFile::exists(QString("%1-%2.png").arg(pdf).arg(k)); ++k)
+        pages << QImage(QString("%1-%2.png").arg(pdf).arg(k)).convertToFormat(QImage::Format_RGB32);
+    return pages;
+}
+
+// Every dark pixel lies inside one of the boards (mm), and each board has its frame down its left side.
+void expectInkOnlyIn(const QImage& page, const QVector<QRectF>& boards) {
+    int stray = 0;
+    for (int y = 0; y < page.height(); ++y)
+        for (int x = 0; x < page.width(); ++x) {
+            const QPointF mm((x + 0.5) / kPxPerMm, (y + 0.5) / kPxPerMm);
+            stray += qGray(page.pixel(x, y)) < 200 && std::none_of(boards.begin(), boards.end(), [&](QRectF r) {
+                         return r.adjusted(-1.5, -1.5, 1.5, 1.5).contains(mm);
+                     });
+        }
+    QCOMPARE(stray, 0);
+    for (const QRectF& r : boards) {
+        int rowsWithInk = 0;
+        for (int y = int(r.top() * kPxPerMm); y <= int(r.bottom() * kPxPerMm); ++y)
+            for (int x = int(r.left() * kPxPerMm); x <= int((r.left() + r.width() / 10) * kPxPerMm); ++x)
+                if (qGray(page.pixel(x, y)) < 200) {
+                    ++rowsWithInk;
+                    break;
+                }
+        QVERIFY(rowsWithInk > r.height() * kPxPerMm * 0.8);
+    }
+}
+
+}  // namespace
 
 class WindowTest : public QObject {
     Q_OBJECT
@@ -30,11 +74,37 @@ class WindowTest : public QObject {
         trigger(*window, action);
     }
     void saveTo(const QString& path) { fileCommand("actionSaveGame", path); }
+    static QByteArray contents(const QString& path) {
+        QFile f(path);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+    PrintingInfo& choose(const char* radio, int repeat, int level, bool pdf = false, bool preview = false) {
+        PrintingInfo& info = window->printingOptions();
+        child<QRadioButton>(info, radio)->setChecked(true);
+        child<QSpinBox>(info, "repeatCount")->setValue(repeat);
+        child<QComboBox>(info, "cmbGamesLevel")->setCurrentIndex(level);
+        child<QCheckBox>(info, "chkExportToPdf")->setChecked(pdf);
+        child<QCheckBox>(info, "chkShowPrintPreview")->setChecked(preview);
+        return info;
+    }
+    QString printPdf(const QString& name, bool landscape = false, bool high = false) {
+        QPrinter printer(high ? QPrinter::HighResolution : QPrinter::ScreenResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(dir.filePath(name));
+        SudokuWindow::preparePrinter(printer);
+        printer.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+        window->doPainting(&printer);
+        return printer.outputFileName();
+    }
+    void acceptOptionsSoon(QDialogButtonBox::StandardButton button = QDialogButtonBox::Ok) {
+        QTimer::singleShot(50, window, [this, button] {
+            child<QDialogButtonBox>(window->printingOptions(), "buttonBox")->button(button)->click();
+        });
+    }
 
 private slots:
     void init() { window = shownWindow(); }
-    // Closing the window asks the application to quit, which ends every event
-    // loop started later; running the application's loop once clears that.
+    // A closed window asks the application to quit, which would end every later event loop; one run clears that.
     void cleanup() {
         delete window;
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
@@ -118,6 +188,10 @@ private slots:
         trigger(*window, "actionNewGameHard");
         QCOMPARE(window->levelText(), QString("difficulty: Hard"));
         QCOMPARE(window->caret(), -1);
+        answerer.timer.stop();  // the window closed while it asks: no new game
+        QTimer::singleShot(100, window, [this] { window->close(); });
+        trigger(*window, "actionNewGameEasy");
+        QCOMPARE(window->levelText(), QString("difficulty: Hard"));
     }
 
     void completingTheBoardCelebrates() {
@@ -170,6 +244,7 @@ private slots:
         QTest::mouseClick(src->viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(src->viewport(), Qt::LeftButton, {}, at);
         QVERIFY(window->currentBoard()->historySize() > before);
+        QCOMPARE(window->currentBoard()->pencilMarksRulesList(), Rules{eng::ruleSingles});
         int marked = 0;
         for (QLabel* label : window->findChildren<QLabel*>())
             marked += label->styleSheet() == Tile::stylePotentialRemoved;
@@ -191,22 +266,13 @@ private slots:
         QCOMPARE(dialog.focusWidget(), static_cast<QWidget*>(dest));
         apply();
         expectClean(true);
-        dest->setCurrentRow(2);
-        click("btnDown");  // down on the last row: nothing moves, still clean
-        expectClean(true);
         dest->setCurrentRow(0);
         click("btnDown");
         QCOMPARE(dialog.selectedRules(), (Rules{eng::ruleSingles, eng::ruleHiddenSingles, eng::ruleDoubles}));
         expectClean(false);
         apply();
-        // Without a current row nothing moves and no entry is lost.
-        dest->setCurrentItem(nullptr);
-        dialog.dstSelectionChanged();
-        dialog.moveCurrentItemUp();
         dest->selectAll();
         click("btnToSrc");
-        QVERIFY(dialog.selectedRules().empty());
-        dialog.moveCurrentItemUp();
         QCOMPARE(src->count(), 16);
         // Everything chosen: sixteen distinct rules reach the board.
         src->selectAll();
@@ -226,17 +292,9 @@ private slots:
         window->tilePotentialsEdited(firstEmpty(*window), 9);
         trigger(*window, "actionRetractMove");
         const auto shown = shownValues(*window);
-        auto candidates = [this] {
-            std::vector<bool> marks;
-            for (int i = 0; i < 81 * 9; ++i)
-                marks.push_back(window->currentBoard()->cell(i / 9)->isPotential(i % 9 + 1));
-            return marks;
-        };
-        const auto marks = candidates();
-        {
-            QFile junk(path);  // saving over an existing file replaces all of it
-            QVERIFY(junk.open(QIODevice::WriteOnly) && junk.write(QByteArray(200000, 'x')));
-        }
+        QFile junk(path);  // saving over an existing file replaces all of it
+        QVERIFY(junk.open(QIODevice::WriteOnly) && junk.write(QByteArray(200000, 'x')));
+        junk.close();
         saveTo(path);
         QVERIFY(QFileInfo(path).size() > 1836 && QFileInfo(path).size() < 200000);
 
@@ -245,8 +303,8 @@ private slots:
         fileCommand("actionOpenGame", path);
         QCOMPARE(answerer.texts.size(), 1);  // only the new-game question
         QCOMPARE(shownValues(*window), shown);
-        QCOMPARE(candidates(), marks);
-        QCOMPARE(window->currentBoard()->undoneSize(), 1u);
+        saveTo(dir.filePath("again.sud"));  // all of the game came back, retracted moves and candidates too
+        QCOMPARE(contents(dir.filePath("again.sud")), contents(path));
         trigger(*window, "actionMakeMove");  // the retracted move comes back first
         QCOMPARE(window->currentBoard()->undoneSize(), 0u);
     }
@@ -269,7 +327,6 @@ private slots:
         const auto shown = shownValues(*window);
         eng::Board* board = window->currentBoard();
         const QString path = dir.filePath("bad.sud");
-        QFile::remove(path);
         saveTo(path);
         QFile f(path);
         QVERIFY(f.open(QIODevice::ReadWrite) && f.resize(bytes.isEmpty() ? f.size() / 2 : 0) && f.write(bytes) >= 0);
@@ -294,18 +351,13 @@ private slots:
 
     void failedSaveKeepsThePreviousFile() {
         // A 64 KiB file system that fills up between two saves.
-        if (geteuid() != 0) QSKIP("mounting a small tmpfs needs root");
         const QByteArray mnt = QFile::encodeName(dir.path());
-        if (mount("tmpfs", mnt.constData(), "tmpfs", 0, "size=64k") != 0) QSKIP("cannot mount a tmpfs here");
+        if (mount("tmpfs", mnt.constData(), "tmpfs", 0, "size=64k") != 0) QSKIP("cannot mount a tmpfs (needs root)");
         const auto unmount = qScopeGuard([&mnt] { umount2(mnt.constData(), MNT_DETACH); });
         const QString path = dir.filePath("game.sud");
         MessageBoxAnswerer answerer;
-        auto contents = [&path] {
-            QFile f(path);
-            return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-        };
         saveTo(path);
-        const QByteArray first = contents();
+        const QByteArray first = contents(path);
         QVERIFY(first.size() > 1836);
         QFile fill(dir.filePath("fill"));
         QVERIFY(fill.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
@@ -314,61 +366,148 @@ private slots:
         trigger(*window, "actionMakeMove");  // a longer game to save
         saveTo(path);
         QCOMPARE(answerer.texts, QStringList{"Failed to save game"});
-        QCOMPARE(contents(), first);
+        QCOMPARE(contents(path), first);
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{"fill", "game.sud"}));
     }
 
-    // Closing during a refusal blink: input meanwhile is ignored and the board untouched.
-    void closeDuringRefusalAnimation() {
-        eng::Board* board = window->currentBoard();
-        const size_t history = board->historySize();
-        const int i = firstEmpty(*window);
-        QTimer::singleShot(300, window, [this, i] {
-            QTest::mouseClick(window->tileAt(i == 0 ? 1 : 0), Qt::LeftButton);
-            trigger(*window, "actionMakeMove");
-            trigger(*window, "actionOpenGame");
-            window->close();
-        });
-        clickThenKey(i, Qt::Key(Qt::Key_0 + board->solutionValue(i) % 9 + 1));
-        QVERIFY(!window->isVisible());
-        QVERIFY(!window->tileAt(i)->hasValue());
-        QCOMPARE(window->currentBoard(), board);
-        QCOMPARE(board->historySize(), history);
+    // Closing during a refusal blink or the completion sweep: clicks and commands meanwhile are ignored, the board
+    // keeps what the entry made of it and no message box is left waiting.
+    void closeDuringAnimation_data() {
+        QTest::addColumn<bool>("completing");
+        QTest::newRow("refusal") << false;
+        QTest::newRow("celebration") << true;
     }
-
-    void closeWhileAskingForANewGame() {
-        eng::Board* board = window->currentBoard();
-        QTimer::singleShot(100, window, [this] { window->close(); });
-        trigger(*window, "actionNewGameHard");
-        QCOMPARE(window->currentBoard(), board);
-        QCOMPARE(window->levelText(), QString("difficulty: Medium"));
-    }
-
-    // Closing during the completion sweep: clicks and commands meanwhile are
-    // ignored, no message box is left waiting.
-    void closeDuringCelebration() {
+    void closeDuringAnimation() {
+        QFETCH(bool, completing);
         MessageBoxAnswerer answerer;
         trigger(*window, "actionNewGameVeryEasy");
         eng::Board* board = window->currentBoard();
-        int last = -1;
-        for (int i = firstEmpty(*window); i >= 0; i = firstEmpty(*window, i)) {
-            if (last >= 0) QVERIFY(board->setValue(last, board->solutionValue(last)));
+        int last = firstEmpty(*window);
+        for (int i = firstEmpty(*window, last); completing && i >= 0; i = firstEmpty(*window, i)) {
+            QVERIFY(board->setValue(last, board->solutionValue(last)));
             last = i;
         }
+        const size_t history = board->historySize();
         answerer.texts.clear();
-        QTimer::singleShot(400, window, [this] {
+        QTimer::singleShot(300, window, [this] {
             QTest::mouseClick(window->tileAt(0), Qt::LeftButton);
             trigger(*window, "actionRetractMove");
+            trigger(*window, "actionMakeMove");
+            trigger(*window, "actionOpenGame");
             trigger(*window, "actionNewGameHard");
             window->close();
         });
         QElapsedTimer timer;
         timer.start();
-        window->tileValueEdited(last, board->solutionValue(last));
+        const int v = board->solutionValue(last);
+        clickThenKey(last, Qt::Key(Qt::Key_0 + (completing ? v : v % 9 + 1)));
         QVERIFY(timer.elapsed() < 2500);
-        QVERIFY(board->isComplete());
+        QVERIFY(!window->isVisible());
         QCOMPARE(window->currentBoard(), board);
+        QCOMPARE(board->historySize(), history + completing);
+        QCOMPARE(window->tileAt(last)->hasValue(), completing);
         QVERIFY(answerer.texts.isEmpty());
+    }
+
+    void layouts_data() {
+        QTest::addColumn<QString>("radio");
+        QTest::addColumn<int>("repeat");
+        QTest::addColumn<bool>("landscape");
+        QTest::addColumn<bool>("high");
+        QTest::addColumn<QVector<QRectF>>("boards");
+        QTest::newRow("one") << "radCurrentGame" << 3 << false << false << QVector<QRectF>{{30, 50, 150, 156}};
+        QTest::newRow("one_high") << "radCurrentGame" << 1 << false << true << QVector<QRectF>{{30, 50, 150, 156}};
+        QTest::newRow("two") << "radNewTwoGames" << 1 << false << false
+                             << QVector<QRectF>{{55, 34.5, 100, 104}, {55, 158.5, 100, 104}};
+        QTest::newRow("two_landscape") << "radNewTwoGames" << 1 << true << false
+                                       << QVector<QRectF>{{38.5, 53, 100, 104}, {158.5, 53, 100, 104}};
+        const QVector<QRectF> four{
+            {17.5, 55.5, 80, 83}, {112.5, 55.5, 80, 83}, {17.5, 158.5, 80, 83}, {112.5, 158.5, 80, 83}};
+        QTest::newRow("four") << "radNewFourGames" << 1 << false << false << four;
+        QTest::newRow("four_high") << "radNewFourGames" << 1 << false << true << four;
+        QTest::newRow("four_twice") << "radNewFourGames" << 2 << false << false << four;
+    }
+    void layouts() {
+        QFETCH(QString, radio);
+        QFETCH(int, repeat);
+        QFETCH(bool, landscape);
+        QFETCH(bool, high);
+        QFETCH(QVector<QRectF>, boards);
+        const auto board = window->currentBoard();
+        choose(qPrintable(radio), repeat, 1);
+        std::srand(321);
+        const QString pdf = printPdf(QString(QTest::currentDataTag()) + ".pdf", landscape, high);
+        if (radio == "radCurrentGame") {  // printing the current game changes nothing
+            QCOMPARE(window->currentBoard(), board);
+        } else {  // the window ends on the last game printed: the same generations again
+            QCOMPARE(window->levelText(), QString("difficulty: Very Easy"));
+            std::srand(321);
+            eng::Board last(nullptr);
+            last.setPencilMarksRules(window->pencilMarksDialog().selectedRules());
+            for (int g = 0; g < repeat * boards.size(); ++g) QVERIFY(last.generate(eng::lvlVeryEasy));
+            for (int i = 0; i < 81; ++i) QCOMPARE(window->tileAt(i)->value(), last.cell(i)->value());
+        }
+        const auto pages = renderPages(pdf);
+        QCOMPARE(pages.size(), repeat);
+        QCOMPARE(pages.first() == pages.last(), repeat == 1 || radio == "radCurrentGame");
+        QCOMPARE(pages[0].width() > pages[0].height(), landscape);
+        expectInkOnlyIn(pages[0], boards);
+        savePicture(pages[0], QString("print_") + QTest::currentDataTag());
+    }
+
+    // Ctrl+P asks for the options, then for the PDF's name; cancelling either prints nothing.
+    void printCommandExportsPdf() {
+        PrintingInfo& info = choose("radNewGame", 2, 2, true);
+        const QString path = dir.filePath("command.pdf");
+        QString answer = path;
+        window->setFileNameProvider(
+            [&](SudokuWindow::FileRequest r) { return r == SudokuWindow::FileRequest::Pdf ? answer : QString(); });
+        acceptOptionsSoon();
+        QTest::keyClick(window->tileAt(40), Qt::Key_P, Qt::ControlModifier);
+        QCOMPARE(renderPages(path).size(), 2);
+        QCOMPARE(window->levelText(), QString("difficulty: Easy"));
+        answer.clear();
+        QFile::remove(path);
+        acceptOptionsSoon();
+        window->printGame();
+        acceptOptionsSoon(QDialogButtonBox::Cancel);
+        window->printGame();
+        QVERIFY(!QFile::exists(path));
+        QCOMPARE(info.whatToPrint(), 1);  // the choices are kept
+        QCOMPARE(info.gamesLevel(), 2);
+    }
+
+    void previewDrawsThePages() {
+        choose("radNewTwoGames", 2, 3, false, true);
+        QString seen;  // the pages shown, the level after the first game, the pages after turning them
+        acceptOptionsSoon();
+        QTimer poll;  // acts once the preview shows its pages
+        connect(&poll, &QTimer::timeout, [&] {
+            auto* preview = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+            auto* pages = preview ? preview->findChild<QPrintPreviewWidget*>() : nullptr;
+            if (!pages || pages->pageCount() == 0) return;
+            poll.stop();
+            seen = QString("%1, %2, ").arg(pages->pageCount()).arg(window->levelText());
+            pages->setLandscapeOrientation();  // asks for the pages again
+            seen += QString::number(pages->pageCount());
+            preview->reject();
+        });
+        poll.start(20);
+        window->printGame();
+        QCOMPARE(seen, QString("2, difficulty: Medium, 2"));
+    }
+
+    void noEventIsProcessedWhileDrawing() {
+        // A timer touching the preview between its pages would crash it: it fires once the four games are drawn.
+        choose("radNewFourGames", 1, 1);
+        bool fired = false;
+        QTimer::singleShot(0, window, [&] { fired = true; });
+        QCOMPARE(renderPages(printPdf("outer.pdf")).size(), 1);
+        QVERIFY(!fired);
+        QTRY_VERIFY(fired);
+        MessageBoxAnswerer answerer;
+        printPdf("no/such/dir/out.pdf");
+        QCOMPARE(answerer.texts, QStringList{"Failed to print."});
     }
 };
 
