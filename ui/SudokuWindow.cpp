@@ -25,12 +25,12 @@ constexpr int kCelebrationStepMs = 300;
 
 const char* levelLabel(int level) {
     switch (level) {
-    case eng::lvlCompleted: return "difficulty: none";
-    case eng::lvlVeryEasy: return "difficulty: Very Easy";
-    case eng::lvlEasy: return "difficulty: Easy";
-    case eng::lvlMedium: return "difficulty: Medium";
-    case eng::lvlHard: return "difficulty: Hard";
-    default: return "difficulty: user edit";
+    case eng::lvlCompleted: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: none");
+    case eng::lvlVeryEasy: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Very Easy");
+    case eng::lvlEasy: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Easy");
+    case eng::lvlMedium: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Medium");
+    case eng::lvlHard: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Hard");
+    default: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: user edit");
     }
 }
 
