@@ -5,6 +5,7 @@ set -euo pipefail
 packages=(
   build-essential cmake pkg-config
   qtbase5-dev qtbase5-private-dev qtmultimedia5-dev libqt5multimedia5-plugins libqt5svg5
+  qttools5-dev qttools5-dev-tools qttranslations5-l10n qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev
   poppler-utils
