@@ -5,475 +5,476 @@
     <name>AboutDialog</name>
     <message>
         <source>About Sudoku Vantu</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Sudoku Vantu</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Version:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Versión:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Credits:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Application Author: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Icons Author: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Application homepage: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Sudoku Vantu developers. All rights reserved.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Créditos:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Autores del programa: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Autor de los iconos: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Página del programa: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Los desarrolladores de Sudoku Vantu. Todos los derechos reservados.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
 </context>
 <context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de anotaciones</translation>
     </message>
     <message>
         <source>Autoresolve pencilmarks using following methods:</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolver las anotaciones con estos métodos:</translation>
     </message>
     <message>
         <source>Available:</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponibles:</translation>
     </message>
     <message>
         <source>Selected:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegidos:</translation>
     </message>
     <message>
         <source>00. Singles Row Only</source>
-        <translation type="unfinished"></translation>
+        <translation>00. Únicos, solo filas</translation>
     </message>
     <message>
         <source>01. Singles Col Only</source>
-        <translation type="unfinished"></translation>
+        <translation>01. Únicos, solo columnas</translation>
     </message>
     <message>
         <source>02. Singles Square Only</source>
-        <translation type="unfinished"></translation>
+        <translation>02. Únicos, solo cajas</translation>
     </message>
     <message>
         <source>03. Singles Row + Col Only</source>
-        <translation type="unfinished"></translation>
+        <translation>03. Únicos, solo filas + columnas</translation>
     </message>
     <message>
         <source>04. Singles</source>
-        <translation type="unfinished"></translation>
+        <translation>04. Únicos</translation>
     </message>
     <message>
         <source>05. Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>05. Parejas</translation>
     </message>
     <message>
         <source>06. Triples</source>
-        <translation type="unfinished"></translation>
+        <translation>06. Tríos</translation>
     </message>
     <message>
         <source>07. Quads</source>
-        <translation type="unfinished"></translation>
+        <translation>07. Cuartetos</translation>
     </message>
     <message>
         <source>08. Transitive Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>08. Parejas transitivas</translation>
     </message>
     <message>
         <source>09. Locked by Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>09. Bloqueados por filas</translation>
     </message>
     <message>
         <source>10. Locked by Cols</source>
-        <translation type="unfinished"></translation>
+        <translation>10. Bloqueados por columnas</translation>
     </message>
     <message>
         <source>11. Locked by Squares</source>
-        <translation type="unfinished"></translation>
+        <translation>11. Bloqueados por cajas</translation>
     </message>
     <message>
         <source>12. Hidden Singles</source>
-        <translation type="unfinished"></translation>
+        <translation>12. Únicos ocultos</translation>
     </message>
     <message>
         <source>13. Hidden Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>13. Parejas ocultas</translation>
     </message>
     <message>
         <source>14. Hidden Triples</source>
-        <translation type="unfinished"></translation>
+        <translation>14. Tríos ocultos</translation>
     </message>
     <message>
         <source>15. Hidden Quads</source>
-        <translation type="unfinished"></translation>
+        <translation>15. Cuartetos ocultos</translation>
     </message>
 </context>
 <context>
     <name>PrintingInfoClass</name>
     <message>
         <source>Printing Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresión</translation>
     </message>
     <message>
         <source>What to print?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué desea imprimir?</translation>
     </message>
     <message>
         <source>Current game</source>
-        <translation type="unfinished"></translation>
+        <translation>La partida actual</translation>
     </message>
     <message>
         <source>Generate and print a new game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear e imprimir una partida nueva</translation>
     </message>
     <message>
         <source>Generate and print two games on the same page</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear e imprimir dos partidas por página</translation>
     </message>
     <message>
         <source>Generate and print four games on the same page</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear e imprimir cuatro partidas por página</translation>
     </message>
     <message>
         <source>How many times to repeat above operation?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuántas veces repetir la operación?</translation>
     </message>
     <message>
         <source>Repeat count:</source>
-        <translation type="unfinished"></translation>
+        <translation>Repeticiones:</translation>
     </message>
     <message>
         <source>Level for generated games:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de las partidas:</translation>
     </message>
     <message>
         <source>Export as PDF instead of printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar a PDF en vez de imprimir</translation>
     </message>
     <message>
         <source>Show print preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar vista previa</translation>
     </message>
     <message>
         <source>High Resolution (best quality)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta resolución (mejor calidad)</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Resuelto</translation>
     </message>
     <message>
         <source>Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy fácil</translation>
     </message>
     <message>
         <source>Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Fácil</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Medio</translation>
     </message>
     <message>
         <source>Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>Difícil</translation>
     </message>
 </context>
 <context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
-        <translation type="unfinished"></translation>
+        <translation>dificultad: ninguna</translation>
     </message>
     <message>
         <source>difficulty: Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>dificultad: Muy fácil</translation>
     </message>
     <message>
         <source>difficulty: Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>dificultad: Fácil</translation>
     </message>
     <message>
         <source>difficulty: Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>dificultad: Media</translation>
     </message>
     <message>
         <source>difficulty: Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>dificultad: Difícil</translation>
     </message>
     <message>
         <source>difficulty: user edit</source>
-        <translation type="unfinished"></translation>
+        <translation>dificultad: propia</translation>
     </message>
     <message>
         <source>No more moves can be done.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden hacer más movimientos.</translation>
     </message>
     <message>
         <source>Cell %1 has no solution</source>
-        <translation type="unfinished"></translation>
+        <translation>La casilla %1 no tiene solución</translation>
     </message>
     <message>
         <source>This is not a valid .sud file</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo .sud válido</translation>
     </message>
     <message>
         <source>Current game will be lost.
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Se perderá la partida actual.
+¿Continuar?</translation>
     </message>
     <message>
         <source>Failed to generate a valid game.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo crear una partida válida.</translation>
     </message>
     <message>
         <source>Congratulations!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Enhorabuena!</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir archivo</translation>
     </message>
     <message>
         <source>Sudoku files (*.sud)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de Sudoku (*.sud)</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo</translation>
     </message>
     <message>
         <source>Portable document files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentos PDF (*.pdf)</translation>
     </message>
     <message>
         <source>Failed to load game</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cargar la partida</translation>
     </message>
     <message>
         <source>Failed to save game</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la partida</translation>
     </message>
     <message>
         <source>Print Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir documento</translation>
     </message>
     <message>
         <source>Failed to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo imprimir.</translation>
     </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>
     <message>
         <source>Start a new game</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar una partida</translation>
     </message>
     <message>
         <source>&amp;Game</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Juego</translation>
     </message>
     <message>
         <source>&amp;New Game</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nueva partida</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>Toolbar Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementos de la barra</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ay&amp;uda</translation>
     </message>
     <message>
         <source>Main Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra principal</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Resuelto</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Completed Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida resuelta&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a new game fully resolved</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una partida completamente resuelta</translation>
     </message>
     <message>
         <source>Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy fácil</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Very Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida muy fácil&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a very easy game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una partida muy fácil</translation>
     </message>
     <message>
         <source>Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Fácil</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida fácil&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a easy game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una partida fácil</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Medio</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Medium Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida media&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a medium game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una partida de dificultad media</translation>
     </message>
     <message>
         <source>Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>Difícil</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Hard Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida difícil&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a hard game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una partida difícil</translation>
     </message>
     <message>
         <source>User Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablero propio</translation>
     </message>
     <message>
         <source>&amp;Open Game...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir partida...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Open game from disk&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Abrir una partida guardada&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Open Existing Game</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una partida existente</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>&amp;Save Game...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar partida...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Save Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Guardar partida&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Save current game</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la partida actual</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimir...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Show Print Options&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Opciones de impresión&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Show print option dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar las opciones de impresión</translation>
     </message>
     <message>
         <source>Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir...</translation>
     </message>
     <message>
         <source>&amp;Make Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer &amp;movimiento</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Make a move for me&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Hacer un movimiento por mí&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Make Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer movimiento</translation>
     </message>
     <message>
         <source>&amp;Retract Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer movimiento</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Retract Move&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Deshacer movimiento&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Retract Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer movimiento</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Exit Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir del programa</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acerca de</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu Version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku for one, made with care&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu versión 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku para uno, hecho con cariño&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Pencil Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotaciones</translation>
     </message>
     <message>
         <source>Pencil Marks Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de anotaciones...</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de herramientas</translation>
     </message>
     <message>
         <source>Statusbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de estado</translation>
     </message>
     <message>
         <source>New Game Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Iconos de partida nueva</translation>
     </message>
     <message>
         <source>Open &amp;&amp; Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;&amp; guardar</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Back &amp; Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Atrás &amp; adelante</translation>
     </message>
 </context>
 <context>
     <name>Tile</name>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Formulario</translation>
     </message>
 </context>
 </TS>

@@ -5,475 +5,476 @@
     <name>AboutDialog</name>
     <message>
         <source>About Sudoku Vantu</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Sudoku Vantu</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Version:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Version :&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Credits:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Application Author: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Icons Author: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Application homepage: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Sudoku Vantu developers. All rights reserved.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Remerciements :&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Auteurs du programme : &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Auteur des icônes : &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Site du programme : &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Les développeurs de Sudoku Vantu. Tous droits réservés.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
 </context>
 <context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options des annotations</translation>
     </message>
     <message>
         <source>Autoresolve pencilmarks using following methods:</source>
-        <translation type="unfinished"></translation>
+        <translation>Résoudre les annotations avec ces méthodes :</translation>
     </message>
     <message>
         <source>Available:</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponibles :</translation>
     </message>
     <message>
         <source>Selected:</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisies :</translation>
     </message>
     <message>
         <source>00. Singles Row Only</source>
-        <translation type="unfinished"></translation>
+        <translation>00. Singletons, lignes seules</translation>
     </message>
     <message>
         <source>01. Singles Col Only</source>
-        <translation type="unfinished"></translation>
+        <translation>01. Singletons, colonnes seules</translation>
     </message>
     <message>
         <source>02. Singles Square Only</source>
-        <translation type="unfinished"></translation>
+        <translation>02. Singletons, blocs seuls</translation>
     </message>
     <message>
         <source>03. Singles Row + Col Only</source>
-        <translation type="unfinished"></translation>
+        <translation>03. Singletons, lignes + colonnes</translation>
     </message>
     <message>
         <source>04. Singles</source>
-        <translation type="unfinished"></translation>
+        <translation>04. Singletons</translation>
     </message>
     <message>
         <source>05. Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>05. Paires</translation>
     </message>
     <message>
         <source>06. Triples</source>
-        <translation type="unfinished"></translation>
+        <translation>06. Triplets</translation>
     </message>
     <message>
         <source>07. Quads</source>
-        <translation type="unfinished"></translation>
+        <translation>07. Quadruplets</translation>
     </message>
     <message>
         <source>08. Transitive Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>08. Paires transitives</translation>
     </message>
     <message>
         <source>09. Locked by Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>09. Verrouillés par lignes</translation>
     </message>
     <message>
         <source>10. Locked by Cols</source>
-        <translation type="unfinished"></translation>
+        <translation>10. Verrouillés par colonnes</translation>
     </message>
     <message>
         <source>11. Locked by Squares</source>
-        <translation type="unfinished"></translation>
+        <translation>11. Verrouillés par blocs</translation>
     </message>
     <message>
         <source>12. Hidden Singles</source>
-        <translation type="unfinished"></translation>
+        <translation>12. Singletons cachés</translation>
     </message>
     <message>
         <source>13. Hidden Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>13. Paires cachées</translation>
     </message>
     <message>
         <source>14. Hidden Triples</source>
-        <translation type="unfinished"></translation>
+        <translation>14. Triplets cachés</translation>
     </message>
     <message>
         <source>15. Hidden Quads</source>
-        <translation type="unfinished"></translation>
+        <translation>15. Quadruplets cachés</translation>
     </message>
 </context>
 <context>
     <name>PrintingInfoClass</name>
     <message>
         <source>Printing Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression</translation>
     </message>
     <message>
         <source>What to print?</source>
-        <translation type="unfinished"></translation>
+        <translation>Que faut-il imprimer ?</translation>
     </message>
     <message>
         <source>Current game</source>
-        <translation type="unfinished"></translation>
+        <translation>La partie en cours</translation>
     </message>
     <message>
         <source>Generate and print a new game</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer et imprimer une nouvelle grille</translation>
     </message>
     <message>
         <source>Generate and print two games on the same page</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer et imprimer deux grilles par page</translation>
     </message>
     <message>
         <source>Generate and print four games on the same page</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer et imprimer quatre grilles par page</translation>
     </message>
     <message>
         <source>How many times to repeat above operation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de fois répéter cette opération ?</translation>
     </message>
     <message>
         <source>Repeat count:</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétitions :</translation>
     </message>
     <message>
         <source>Level for generated games:</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau des grilles créées :</translation>
     </message>
     <message>
         <source>Export as PDF instead of printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en PDF au lieu d’imprimer</translation>
     </message>
     <message>
         <source>Show print preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’aperçu</translation>
     </message>
     <message>
         <source>High Resolution (best quality)</source>
-        <translation type="unfinished"></translation>
+        <translation>Haute résolution (meilleure qualité)</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Résolue</translation>
     </message>
     <message>
         <source>Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Très facile</translation>
     </message>
     <message>
         <source>Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Facile</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyen</translation>
     </message>
     <message>
         <source>Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>Difficile</translation>
     </message>
 </context>
 <context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
-        <translation type="unfinished"></translation>
+        <translation>niveau : aucun</translation>
     </message>
     <message>
         <source>difficulty: Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>niveau : Très facile</translation>
     </message>
     <message>
         <source>difficulty: Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>niveau : Facile</translation>
     </message>
     <message>
         <source>difficulty: Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>niveau : Moyen</translation>
     </message>
     <message>
         <source>difficulty: Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>niveau : Difficile</translation>
     </message>
     <message>
         <source>difficulty: user edit</source>
-        <translation type="unfinished"></translation>
+        <translation>niveau : personnel</translation>
     </message>
     <message>
         <source>No more moves can be done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus aucun coup n’est possible.</translation>
     </message>
     <message>
         <source>Cell %1 has no solution</source>
-        <translation type="unfinished"></translation>
+        <translation>La case %1 n’a pas de solution</translation>
     </message>
     <message>
         <source>This is not a valid .sud file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier .sud valide</translation>
     </message>
     <message>
         <source>Current game will be lost.
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>La partie en cours sera perdue.
+Continuer ?</translation>
     </message>
     <message>
         <source>Failed to generate a valid game.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer une grille valide.</translation>
     </message>
     <message>
         <source>Congratulations!</source>
-        <translation type="unfinished"></translation>
+        <translation>Félicitations !</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier</translation>
     </message>
     <message>
         <source>Sudoku files (*.sud)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers Sudoku (*.sud)</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier</translation>
     </message>
     <message>
         <source>Portable document files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents PDF (*.pdf)</translation>
     </message>
     <message>
         <source>Failed to load game</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger la partie</translation>
     </message>
     <message>
         <source>Failed to save game</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer la partie</translation>
     </message>
     <message>
         <source>Print Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer le document</translation>
     </message>
     <message>
         <source>Failed to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’impression a échoué.</translation>
     </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>
     <message>
         <source>Start a new game</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle partie</translation>
     </message>
     <message>
         <source>&amp;Game</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jeu</translation>
     </message>
     <message>
         <source>&amp;New Game</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouvelle partie</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>Toolbar Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments de la barre</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>Main Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre d’outils principale</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Résolue</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Completed Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille résolue&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a new game fully resolved</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une grille entièrement résolue</translation>
     </message>
     <message>
         <source>Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Très facile</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Very Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille très facile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a very easy game</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une grille très facile</translation>
     </message>
     <message>
         <source>Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Facile</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille facile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a easy game</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une grille facile</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyen</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Medium Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille moyenne&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a medium game</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une grille moyenne</translation>
     </message>
     <message>
         <source>Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>Difficile</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Hard Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille difficile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a hard game</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une grille difficile</translation>
     </message>
     <message>
         <source>User Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Grille personnelle</translation>
     </message>
     <message>
         <source>&amp;Open Game...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir une partie...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Open game from disk&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Ouvrir une partie enregistrée&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Open Existing Game</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une partie existante</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>&amp;Save Game...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregi&amp;strer la partie...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Save Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Enregistrer la partie&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Save current game</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la partie en cours</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimer...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Show Print Options&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Options d’impression&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Show print option dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les options d’impression</translation>
     </message>
     <message>
         <source>Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer...</translation>
     </message>
     <message>
         <source>&amp;Make Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jouer un coup</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Make a move for me&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Jouer un coup pour moi&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Make Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Jouer un coup</translation>
     </message>
     <message>
         <source>&amp;Retract Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler le coup</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Retract Move&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Annuler le coup&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Retract Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le coup</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Exit Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter le programme</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;À propos</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu Version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku for one, made with care&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Le Sudoku en solo, fait avec soin&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Pencil Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Annotations</translation>
     </message>
     <message>
         <source>Pencil Marks Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>Options des annotations...</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre d’outils</translation>
     </message>
     <message>
         <source>Statusbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre d’état</translation>
     </message>
     <message>
         <source>New Game Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Icônes de nouvelle partie</translation>
     </message>
     <message>
         <source>Open &amp;&amp; Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir &amp;&amp; enregistrer</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer</translation>
     </message>
     <message>
         <source>Back &amp; Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrière &amp; avant</translation>
     </message>
 </context>
 <context>
     <name>Tile</name>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Formulaire</translation>
     </message>
 </context>
 </TS>

@@ -5,475 +5,476 @@
     <name>AboutDialog</name>
     <message>
         <source>About Sudoku Vantu</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Sudoku Vantu</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Version:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Versione:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Credits:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Application Author: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Icons Author: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Application homepage: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Sudoku Vantu developers. All rights reserved.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Riconoscimenti:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Autori del programma: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Autore delle icone: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Sito del programma: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Gli sviluppatori di Sudoku Vantu. Tutti i diritti riservati.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
 </context>
 <context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni dei candidati</translation>
     </message>
     <message>
         <source>Autoresolve pencilmarks using following methods:</source>
-        <translation type="unfinished"></translation>
+        <translation>Risolvi i candidati con questi metodi:</translation>
     </message>
     <message>
         <source>Available:</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponibili:</translation>
     </message>
     <message>
         <source>Selected:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scelti:</translation>
     </message>
     <message>
         <source>00. Singles Row Only</source>
-        <translation type="unfinished"></translation>
+        <translation>00. Singoli, solo righe</translation>
     </message>
     <message>
         <source>01. Singles Col Only</source>
-        <translation type="unfinished"></translation>
+        <translation>01. Singoli, solo colonne</translation>
     </message>
     <message>
         <source>02. Singles Square Only</source>
-        <translation type="unfinished"></translation>
+        <translation>02. Singoli, solo riquadri</translation>
     </message>
     <message>
         <source>03. Singles Row + Col Only</source>
-        <translation type="unfinished"></translation>
+        <translation>03. Singoli, solo righe + colonne</translation>
     </message>
     <message>
         <source>04. Singles</source>
-        <translation type="unfinished"></translation>
+        <translation>04. Singoli</translation>
     </message>
     <message>
         <source>05. Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>05. Coppie</translation>
     </message>
     <message>
         <source>06. Triples</source>
-        <translation type="unfinished"></translation>
+        <translation>06. Terne</translation>
     </message>
     <message>
         <source>07. Quads</source>
-        <translation type="unfinished"></translation>
+        <translation>07. Quaterne</translation>
     </message>
     <message>
         <source>08. Transitive Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>08. Coppie transitive</translation>
     </message>
     <message>
         <source>09. Locked by Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>09. Bloccati per righe</translation>
     </message>
     <message>
         <source>10. Locked by Cols</source>
-        <translation type="unfinished"></translation>
+        <translation>10. Bloccati per colonne</translation>
     </message>
     <message>
         <source>11. Locked by Squares</source>
-        <translation type="unfinished"></translation>
+        <translation>11. Bloccati per riquadri</translation>
     </message>
     <message>
         <source>12. Hidden Singles</source>
-        <translation type="unfinished"></translation>
+        <translation>12. Singoli nascosti</translation>
     </message>
     <message>
         <source>13. Hidden Doubles</source>
-        <translation type="unfinished"></translation>
+        <translation>13. Coppie nascoste</translation>
     </message>
     <message>
         <source>14. Hidden Triples</source>
-        <translation type="unfinished"></translation>
+        <translation>14. Terne nascoste</translation>
     </message>
     <message>
         <source>15. Hidden Quads</source>
-        <translation type="unfinished"></translation>
+        <translation>15. Quaterne nascoste</translation>
     </message>
 </context>
 <context>
     <name>PrintingInfoClass</name>
     <message>
         <source>Printing Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa</translation>
     </message>
     <message>
         <source>What to print?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cosa stampare?</translation>
     </message>
     <message>
         <source>Current game</source>
-        <translation type="unfinished"></translation>
+        <translation>La partita corrente</translation>
     </message>
     <message>
         <source>Generate and print a new game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea e stampa una nuova partita</translation>
     </message>
     <message>
         <source>Generate and print two games on the same page</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea e stampa due partite per pagina</translation>
     </message>
     <message>
         <source>Generate and print four games on the same page</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea e stampa quattro partite per pagina</translation>
     </message>
     <message>
         <source>How many times to repeat above operation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quante volte ripetere l’operazione?</translation>
     </message>
     <message>
         <source>Repeat count:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripetizioni:</translation>
     </message>
     <message>
         <source>Level for generated games:</source>
-        <translation type="unfinished"></translation>
+        <translation>Livello delle partite:</translation>
     </message>
     <message>
         <source>Export as PDF instead of printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta in PDF invece di stampare</translation>
     </message>
     <message>
         <source>Show print preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’anteprima</translation>
     </message>
     <message>
         <source>High Resolution (best quality)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta risoluzione (qualità migliore)</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Risolto</translation>
     </message>
     <message>
         <source>Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Molto facile</translation>
     </message>
     <message>
         <source>Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Facile</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Medio</translation>
     </message>
     <message>
         <source>Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>Difficile</translation>
     </message>
 </context>
 <context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
-        <translation type="unfinished"></translation>
+        <translation>livello: nessuno</translation>
     </message>
     <message>
         <source>difficulty: Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>livello: Molto facile</translation>
     </message>
     <message>
         <source>difficulty: Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>livello: Facile</translation>
     </message>
     <message>
         <source>difficulty: Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>livello: Medio</translation>
     </message>
     <message>
         <source>difficulty: Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>livello: Difficile</translation>
     </message>
     <message>
         <source>difficulty: user edit</source>
-        <translation type="unfinished"></translation>
+        <translation>livello: personale</translation>
     </message>
     <message>
         <source>No more moves can be done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non sono possibili altre mosse.</translation>
     </message>
     <message>
         <source>Cell %1 has no solution</source>
-        <translation type="unfinished"></translation>
+        <translation>La casella %1 non ha soluzione</translation>
     </message>
     <message>
         <source>This is not a valid .sud file</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo non è un file .sud valido</translation>
     </message>
     <message>
         <source>Current game will be lost.
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>La partita corrente andrà persa.
+Continuare?</translation>
     </message>
     <message>
         <source>Failed to generate a valid game.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile creare una partita valida.</translation>
     </message>
     <message>
         <source>Congratulations!</source>
-        <translation type="unfinished"></translation>
+        <translation>Complimenti!</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri file</translation>
     </message>
     <message>
         <source>Sudoku files (*.sud)</source>
-        <translation type="unfinished"></translation>
+        <translation>File Sudoku (*.sud)</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva file</translation>
     </message>
     <message>
         <source>Portable document files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documenti PDF (*.pdf)</translation>
     </message>
     <message>
         <source>Failed to load game</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile caricare la partita</translation>
     </message>
     <message>
         <source>Failed to save game</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare la partita</translation>
     </message>
     <message>
         <source>Print Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa documento</translation>
     </message>
     <message>
         <source>Failed to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa non riuscita.</translation>
     </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>
     <message>
         <source>Start a new game</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizia una partita</translation>
     </message>
     <message>
         <source>&amp;Game</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Partita</translation>
     </message>
     <message>
         <source>&amp;New Game</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuova partita</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visualizza</translation>
     </message>
     <message>
         <source>Toolbar Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementi della barra</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aiuto</translation>
     </message>
     <message>
         <source>Main Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra principale</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Risolto</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Completed Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nuova partita risolta&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a new game fully resolved</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea una partita già risolta</translation>
     </message>
     <message>
         <source>Very Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Molto facile</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Very Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nuova partita molto facile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a very easy game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea una partita molto facile</translation>
     </message>
     <message>
         <source>Easy</source>
-        <translation type="unfinished"></translation>
+        <translation>Facile</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nuova partita facile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a easy game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea una partita facile</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Medio</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Medium Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nuova partita media&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a medium game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea una partita di media difficoltà</translation>
     </message>
     <message>
         <source>Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>Difficile</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Hard Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nuova partita difficile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Generate a hard game</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea una partita difficile</translation>
     </message>
     <message>
         <source>User Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Schema personale</translation>
     </message>
     <message>
         <source>&amp;Open Game...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apri partita...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Open game from disk&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Apri una partita salvata&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Open Existing Game</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri una partita esistente</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri</translation>
     </message>
     <message>
         <source>&amp;Save Game...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva partita...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Save Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Salva partita&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Save current game</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva la partita corrente</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tampa...</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Show Print Options&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Opzioni di stampa&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Show print option dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le opzioni di stampa</translation>
     </message>
     <message>
         <source>Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa...</translation>
     </message>
     <message>
         <source>&amp;Make Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fai una mossa</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Make a move for me&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Fai una mossa per me&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Make Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai una mossa</translation>
     </message>
     <message>
         <source>&amp;Retract Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla &amp;mossa</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Retract Move&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Annulla mossa&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Retract Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla mossa</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Esci</translation>
     </message>
     <message>
         <source>Exit Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci dal programma</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Informazioni</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu Version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku for one, made with care&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu versione 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku per uno, fatto con cura&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>Pencil Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Candidati</translation>
     </message>
     <message>
         <source>Pencil Marks Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni dei candidati...</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra degli strumenti</translation>
     </message>
     <message>
         <source>Statusbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra di stato</translation>
     </message>
     <message>
         <source>New Game Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Icone di nuova partita</translation>
     </message>
     <message>
         <source>Open &amp;&amp; Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri &amp;&amp; salva</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa</translation>
     </message>
     <message>
         <source>Back &amp; Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro &amp; avanti</translation>
     </message>
 </context>
 <context>
     <name>Tile</name>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Modulo</translation>
     </message>
 </context>
 </TS>

@@ -6,6 +6,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
 #include <QRadioButton>
 #include <QScreen>
 #include <QStyleOption>
@@ -16,6 +19,7 @@
 
 #include "AboutDialog.h"
 #include "HighDpi.h"
+#include "Translations.h"
 #include "WindowTestSupport.h"
 
 namespace {
@@ -298,6 +302,51 @@ private slots:
             dialog->show();
             QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
             expectTextsFit(dialog, dialog->objectName());
+        }
+    }
+
+    // In every language the program speaks, nothing of the window, its menus, toolbar, status bar and dialogs is
+    // cut, at every level; pictures of each for a person to look at.
+    void translatedTextsFit_data() {
+        QTest::addColumn<QString>("language");
+        for (const char* language : {"de", "fr", "es", "it", "pt_BR", "ru", "zh_CN", "ja"}) QTest::newRow(language) << language;
+    }
+    void translatedTextsFit() {
+        QFETCH(QString, language);
+        if (!QFile::exists(":/i18n/sudoku-vantu_" + language + ".qm")) QSKIP("no catalogue for this language");
+        const Translations translations{QLocale(language)};
+        QCOMPARE(translations.language(), language);
+        QVERIFY(QCoreApplication::translate("QPlatformTheme", "Cancel") != "Cancel");  // the toolkit's own too
+        std::unique_ptr<SudokuWindow> w(shownWindow());
+        MessageBoxAnswerer answerer;
+        for (QAction* level : child<QMenu>(*w, "menu_New_Game")->actions()) {
+            if (level->isSeparator()) continue;
+            level->trigger();
+            expectTextsFit(w.get(), language + "_" + level->objectName());
+        }
+        auto* bar = child<QMenuBar>(*w, "menuBar");
+        for (QAction* menu : bar->actions()) QVERIFY(bar->rect().contains(bar->actionGeometry(menu)));
+        for (QMenu* menu : w->findChildren<QMenu*>()) {
+            menu->popup(w->mapToGlobal(QPoint(20, 40)));
+            QVERIFY(QTest::qWaitForWindowExposed(menu, 30000));
+            QVERIFY2(menu->width() >= menu->sizeHint().width(), qPrintable(menu->objectName()));
+            savePicture(screenOf(*menu), language + "_" + menu->objectName());
+            menu->hide();
+        }
+        auto* tools = child<QToolBar>(*w, "mainToolBar");
+        for (QAction* a : tools->actions())
+            QVERIFY2(a->isSeparator() || tools->widgetForAction(a)->isVisible(), qPrintable(a->objectName()));
+        const QStatusBar* status = w->statusBar();
+        for (QAction* a : w->findChildren<QAction*>())
+            QVERIFY2(status->fontMetrics().horizontalAdvance(a->statusTip()) < status->contentsRect().width(),
+                     qPrintable(a->statusTip()));
+        PrintingInfo printing;
+        PencilMarksOptions pencilMarks;
+        AboutDialog about("1.0.4", w.get());
+        for (QDialog* dialog : std::initializer_list<QDialog*>{&printing, &pencilMarks, &about}) {
+            dialog->show();
+            QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
+            expectTextsFit(dialog, language + "_" + dialog->objectName());
         }
     }
 
