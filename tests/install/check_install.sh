@@ -14,6 +14,14 @@ DESTDIR=$tmp/root cmake --install "$build" --prefix /usr >/dev/null
 desktop=$(echo "$usr"/share/applications/*.desktop)
 desktop-file-validate "$desktop"
 appstreamcli validate-tree --no-net "$usr"  # also checks the launchable desktop entry exists
+# Each language the program speaks: the entry's four texts, the metadata's name, summary and every paragraph and item.
+metainfo=$(echo "$usr"/share/metainfo/*.xml)
+for lang in de fr es it pt_BR ru zh_CN ja; do
+  for key in Name GenericName Comment Keywords; do
+    grep -q "^$key\[$lang\]=." "$desktop" || fail "$key[$lang] missing from the desktop entry"
+  done
+  (($(grep -c "xml:lang=\"$lang\"" "$metainfo") == 7)) || fail "metainfo texts in $lang missing"
+done
 program=$usr/bin/$(sed -n 's/^Exec=//p' "$desktop")  # the program takes no arguments
 test -x "$program" || fail "Exec does not name an installed program: $program"
 icon=$(sed -n 's/^Icon=//p' "$desktop")
