@@ -292,7 +292,12 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
     return true;
 }
 
-void SudokuWindow::setLevelLabel(int level) { ui->txtLevel->setText(tr(levelLabel(level))); }
+void SudokuWindow::setLevelLabel(int level) {
+    ui->txtLevel->setText(tr(levelLabel(level)));
+    // A translated label may need more than the form's width; the board leaves room to its right.
+    const int needed = ui->txtLevel->sizeHint().width();
+    if (needed > ui->txtLevel->width()) ui->txtLevel->resize(needed, ui->txtLevel->height());
+}
 
 void SudokuWindow::newGameCommand(int level) {
     if (busy) return;
