@@ -104,6 +104,26 @@ private slots:
         expectUniqueMnemonics("menu bar", window.menuBar()->actions());
         for (QMenu* menu : window.findChildren<QMenu*>()) expectUniqueMnemonics(menu->title(), menu->actions());
     }
+
+    // The desktop's languages are taken in order, one without a catalogue skipped (ctest sets LANGUAGE=nl:fr:de).
+    void desktopLanguages() {
+        if (qgetenv("LANGUAGE") != "nl:fr:de") QSKIP("needs LANGUAGE=nl:fr:de, as ctest sets it");
+        QCOMPARE(Translations().language(), QString("fr"));
+    }
+
+    // English, and a language without a catalogue, leave every text as written.
+    void englishStays_data() {
+        QTest::addColumn<QString>("locale");
+        for (const char* locale : {"en_US", "en_GB", "C", "nl_NL", "pt_PT"}) QTest::newRow(locale) << locale;
+    }
+    void englishStays() {
+        QFETCH(QString, locale);
+        const Translations translations{QLocale(locale)};
+        QCOMPARE(translations.language(), QString());
+        SudokuWindow window;
+        QCOMPARE(window.menuBar()->actions().first()->text(), QString("&Game"));
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Cancel"));
+    }
 };
 
 QTEST_MAIN(CatalogueTest)
