@@ -7,12 +7,12 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
-#include <QStatusBar>
-#include <QToolBar>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStatusBar>
 #include <QStyleOption>
 #include <QTextDocument>
+#include <QToolBar>
 #include <atomic>
 #include <functional>
 #include <thread>
@@ -141,6 +141,18 @@ void expectTextsFit(QWidget* w, const QString& name) {
     savePicture(screenOf(*w), QString("scale_%1_%2").arg(w->devicePixelRatioF(), 0, 'f', 2).arg(name));
     const QStringList bad = clipped(w);
     QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+}
+
+// Every visible text of the three dialogs fits; their pictures' names start with `prefix`.
+void expectDialogTextsFit(QWidget* parent, const QString& prefix) {
+    PrintingInfo printing;
+    PencilMarksOptions pencilMarks;
+    AboutDialog about("1.0.4", parent);
+    for (QDialog* dialog : std::initializer_list<QDialog*>{&printing, &pencilMarks, &about}) {
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
+        expectTextsFit(dialog, prefix + dialog->objectName());
+    }
 }
 
 }  // namespace
@@ -294,16 +306,7 @@ private slots:
         expectTextsFit(window, "window_" + action);
     }
 
-    void dialogTextsFit() {
-        PrintingInfo printing;
-        PencilMarksOptions pencilMarks;
-        AboutDialog about("1.0.4", window);
-        for (QDialog* dialog : std::initializer_list<QDialog*>{&printing, &pencilMarks, &about}) {
-            dialog->show();
-            QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
-            expectTextsFit(dialog, dialog->objectName());
-        }
-    }
+    void dialogTextsFit() { expectDialogTextsFit(window, ""); }
 
     // In every language the program speaks, nothing of the window, its menus, toolbar, status bar and dialogs is
     // cut, at every level; pictures of each for a person to look at.
@@ -337,14 +340,7 @@ private slots:
         for (QAction* a : w->findChildren<QAction*>())
             QVERIFY2(status->fontMetrics().horizontalAdvance(a->statusTip()) < status->contentsRect().width(),
                      qPrintable(a->statusTip()));
-        PrintingInfo printing;
-        PencilMarksOptions pencilMarks;
-        AboutDialog about("1.0.4", w.get());
-        for (QDialog* dialog : std::initializer_list<QDialog*>{&printing, &pencilMarks, &about}) {
-            dialog->show();
-            QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
-            expectTextsFit(dialog, language + "_" + dialog->objectName());
-        }
+        expectDialogTextsFit(w.get(), language + "_");
     }
 
     // On a scaled screen toolbar icons and the about picture come from the pictures drawn at twice the size.
