@@ -283,6 +283,7 @@ void Tile::rejectValue() {
     refused = digit;
     refusedContent = content();
     announce();
+    announceCaret();  // the description says so too
 }
 
 // Ends with the candidate shown only if pencil marks are still switched on:

@@ -215,9 +215,9 @@ QString tileAccessibleName(const Tile& tile) {
 }
 
 QString tileAccessibleDescription(const Tile& tile) {
-    switch (tile.caret()) {
-    case Tile::ValueCaret: return trTile("Caret: value entry");
-    case Tile::PencilCaret: return trTile("Caret: pencil marks");
-    default: return QString();
-    }
+    QString mode;
+    if (tile.caret() == Tile::ValueCaret) mode = trTile("Caret: value entry");
+    if (tile.caret() == Tile::PencilCaret) mode = trTile("Caret: pencil marks");
+    if (mode.isEmpty() || !tile.refusedValue()) return mode;
+    return trTile("%1; %2 refused").arg(mode).arg(tile.refusedValue());
 }

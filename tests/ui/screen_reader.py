@@ -75,13 +75,13 @@ def listen(event):
     try:
         if event.type.startswith("object:state-changed:focused") and not event.detail1:
             return
-        heard.append((event.type, event.source.name))
+        heard.append((event.type, event.any_data if "description" in event.type else event.source.name))
     except Exception:
         pass
 
 
 pyatspi.Registry.registerEventListener(listen, "object:property-change:accessible-name",
-                                       "object:state-changed:focused")
+                                       "object:property-change:accessible-description", "object:state-changed:focused")
 
 
 def pump():
@@ -187,6 +187,9 @@ for d in range(1, 10):
         fail("a name change to %r, heard %s" % (outcome, heard))
     if outcome == prefix + str(d):
         break
+    said = ("object:property-change:accessible-description", "Caret: value entry; %d refused" % d)
+    if said not in heard:
+        fail("the refusal in the description, heard %s" % heard)
 else:
     fail("no digit was taken")
 

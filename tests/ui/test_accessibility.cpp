@@ -118,6 +118,9 @@ private slots:
             expected += ", candidates " + candidates.join(' ');
         }
         QCOMPARE(name(i), expected);
+        if (kind == "refused")  // in words in the description too, which readers speak for the focused cell
+            QCOMPARE(cell(i)->text(QAccessible::Description),
+                     QString("Caret: value entry; %1 refused").arg(solution(i) % 9 + 1));
     }
 
     // Only the tile that changes is announced; the focus and the caret's mode follow the caret.
