@@ -75,7 +75,8 @@ def listen(event):
     try:
         if event.type.startswith("object:state-changed:focused") and not event.detail1:
             return
-        heard.append((event.type, event.any_data if "description" in event.type else event.source.name))
+        # Qt 5 sends the object itself as a new description: the reader asks it for the text.
+        heard.append((event.type, event.source.description if "description" in event.type else event.source.name))
     except Exception:
         pass
 
