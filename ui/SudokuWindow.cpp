@@ -313,6 +313,7 @@ void SudokuWindow::boardKey(int key) {
     Tile* tile = tiles[caretIndex];
     if (key == Qt::Key_Escape) {
         hideCaretIfAny();
+        ui->boardWidget->setFocus(Qt::OtherFocusReason);  // a reader is back on the board
     } else if (key == Qt::Key_Space) {
         if (tile->caret() == Tile::PencilCaret)
             tile->showValueCaret();

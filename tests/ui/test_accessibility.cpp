@@ -179,6 +179,7 @@ private slots:
             }
         press(Qt::Key_Escape);
         QCOMPARE(window->caret(), -1);
+        QCOMPARE(window->focusWidget(), child<QWidget>(*window, "boardWidget"));
         press(Qt::Key_Left);  // back to the cell it left, with the value caret
         QCOMPARE(window->caret(), c);
         QCOMPARE(window->tileAt(c)->caret(), Tile::ValueCaret);
