@@ -142,7 +142,7 @@ private slots:
         for (int k = 0; k < 81; ++k)
             if (name(k) != before[k]) changed << QString("%1:name").arg(k);
         QCOMPARE(::events, changed);
-        QVERIFY(pencil ? changed.size() > 1 : changed.size() == 1);
+        if (!pencil) QCOMPARE(changed.size(), 1);  // shown, the candidates the value takes from its peers change too
         ::events.clear();
         press(Qt::Key_Right);
         QCOMPARE(window->caret(), j);
