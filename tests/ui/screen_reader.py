@@ -209,5 +209,17 @@ wait_for(lambda: moved.description == "Caret: pencil marks", "the pencil caret a
 say("Space: %s; %s" % (moved.name, moved.description))
 key("Escape")
 wait_for(lambda: moved.description == "", "the caret gone after Escape")
-say("Escape: %s; caret gone" % moved.name)
+wait_for(lambda: table.getState().contains(pyatspi.STATE_FOCUSED), "the board focused after Escape")
+say("Escape: %s; caret gone, focus on %s" % (moved.name, table.name))
+
+# With no caret: Alt+V, Return hides the pencil marks, and Down brings the caret back to the cell it left.
+key("alt+v")
+time.sleep(1)
+key("Return")
+time.sleep(1)
+key("Down")
+back = wait_for(focused_cell, "a focused cell after the menu and Down")
+say("Alt+V, Return, Down: %s; %s" % (back.name, back.description))
+if back != moved or not back.name.endswith(": empty") or back.description != "Caret: value entry":
+    fail("the value caret back on the cell it left")
 finish(0)
