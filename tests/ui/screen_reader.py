@@ -1,100 +1,35 @@
 #!/usr/bin/python3
-# Reads the running game over AT-SPI, as a screen reader does, and plays it with keys typed by xdotool:
-# a session bus, the accessibility bus and its registry, the program with QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1.
-# usage (on an X display): screen_reader.py GAME [REPORT]   exit 77: a tool is missing, nothing was checked
-import os, re, shutil, subprocess, sys, tempfile, time
+# Reads the running game over AT-SPI as a screen reader does, while xdotool plays it with keys alone.
+# usage: scripts/with-display.sh scripts/with-accessibility-bus.sh screen_reader.py GAME REPORT
+import re, subprocess, sys, time
 
-SKIP = 77
-tools = ["dbus-launch", "xdotool", "/usr/libexec/at-spi-bus-launcher", "/usr/libexec/at-spi2-registryd"]
-missing = [t for t in tools if not shutil.which(t)]
-try:
-    import gi  # noqa: F401
-except ImportError:
-    missing.append("python3-gi")
-if missing:
-    print("SKIPPED: missing " + ", ".join(missing) + " (apt-get install at-spi2-core dbus-x11 xdotool python3-pyatspi)")
-    sys.exit(SKIP)
+import pyatspi
+from gi.repository import GLib
 
-game = sys.argv[1]
-report = open(sys.argv[2], "w") if len(sys.argv) > 2 else None
-children = []
-
-
-def start(*cmd, **kw):
-    children.append(subprocess.Popen(cmd, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **kw))
-    return children[-1]
-
-
-runtime = tempfile.mkdtemp(prefix="sudoku-atspi-")
-os.environ["XDG_RUNTIME_DIR"] = runtime
-for line in subprocess.check_output(["dbus-launch", "--sh-syntax"], text=True).splitlines():
-    m = re.match(r"(DBUS_SESSION_BUS_\w+)='?([^';]*)", line)
-    if m:
-        os.environ[m.group(1)] = m.group(2)
-bus_pid = int(os.environ.get("DBUS_SESSION_BUS_PID", "0"))
-
-
-def finish(status):
-    if report:
-        report.close()
-    for p in reversed(children):
-        p.terminate()
-        try:
-            p.wait(10)
-        except subprocess.TimeoutExpired:
-            p.kill()
-    if bus_pid:
-        os.kill(bus_pid, 15)
-    shutil.rmtree(runtime, ignore_errors=True)
-    sys.exit(status)
-
-
-def fail(what):
-    print("FAIL: " + what)
-    finish(1)
-
-
-def say(line):
-    print(line)
-    if report:
-        report.write(line + "\n")
-
-
-start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1")
-time.sleep(1)
-start("/usr/libexec/at-spi2-registryd")
-time.sleep(1)
-
-import pyatspi  # noqa: E402  (needs the session bus above)
-from gi.repository import GLib  # noqa: E402
-
-heard = []  # (event, name) of every name change and focus the reader is told about
+game, report = sys.argv[1], open(sys.argv[2], "w")
+heard = []  # (event, name) of every name change and focus the reader hears of
 
 
 def listen(event):
-    try:
-        if event.type.startswith("object:state-changed:focused") and not event.detail1:
-            return
-        # Qt 5 sends the object itself as a new description: the reader asks it for the text.
-        heard.append((event.type, event.source.description if "description" in event.type else event.source.name))
-    except Exception:
-        pass
+    if event.detail1 or "focused" not in event.type:
+        heard.append((event.type.split(":")[-1], event.source.name))
 
 
-pyatspi.Registry.registerEventListener(listen, "object:property-change:accessible-name",
-                                       "object:property-change:accessible-description", "object:state-changed:focused")
+pyatspi.Registry.registerEventListener(listen, "object:property-change:accessible-name", "object:state-changed:focused")
+app_process = subprocess.Popen([game])
 
 
-def pump():
-    context = GLib.MainContext.default()
-    while context.pending():
-        context.iteration(False)
+def fail(what):
+    app_process.kill()
+    report.close()
+    sys.exit("FAIL: " + what)
 
 
-def wait_for(condition, what, timeout=30):
-    end = time.time() + timeout
+def wait_for(condition, what):
+    end = time.time() + 60
     while time.time() < end:
-        pump()
+        while GLib.MainContext.default().pending():
+            GLib.MainContext.default().iteration(False)
         try:
             found = condition()
         except Exception:
@@ -102,124 +37,135 @@ def wait_for(condition, what, timeout=30):
         if found:
             return found
         time.sleep(0.05)
-    fail("timed out waiting for " + what)
+    fail("timed out waiting for %s; heard %s" % (what, heard[-10:]))
 
 
 def walk(node):
     yield node
     for i in range(node.childCount):
-        child = node.getChildAtIndex(i)
-        if child is not None:
-            yield from walk(child)
+        yield from walk(node.getChildAtIndex(i))
 
 
-def key(*keys):
-    subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
+def say(line):
+    print(line)
+    report.write(line + "\n")
 
 
-env = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_ACCESSIBILITY="1")
-app_process = start(game, env=env)
+def key(name):
+    subprocess.run(["xdotool", "key", "--clearmodifiers", name], check=True)
 
 
-def the_app():
-    for app in pyatspi.Registry.getDesktop(0):
-        if app is not None and app.get_process_id() == app_process.pid:
-            return app
-
-
-app = wait_for(the_app, "the game on the accessibility bus")
-table = wait_for(lambda: next((o for o in walk(app) if o.getRole() == pyatspi.ROLE_TABLE), None), "the board")
+app = wait_for(lambda: next(a for a in pyatspi.Registry.getDesktop(0) if a.get_process_id() == app_process.pid),
+               "the game on the accessibility bus")
+table = wait_for(lambda: next(o for o in walk(app) if o.getRole() == pyatspi.ROLE_TABLE), "the board")
 subprocess.run(["xdotool", "search", "--sync", "--name", "^Sudoku Vantu$", "windowactivate", "--sync"],
-               stdout=subprocess.DEVNULL, check=False)
+               stdout=subprocess.DEVNULL)
 
-# The board as a table: its shape, its cells, and no bare digit or "0" anywhere.
+# The board is a table of leaf cells named in words; no bare digit anywhere; the board has the focus.
 objects = list(walk(app))
-names = [o.name for o in objects]
-say("objects in the window: %d" % len(objects))
-say("board: %s, %s" % (table.name, table.getRoleName()))
+say("objects in the window: %d; board: %s, %s" % (len(objects), table.name, table.getRoleName()))
 cells = table.queryTable()
-if (cells.nRows, cells.nColumns, table.childCount) != (9, 9, 82):
-    fail("a 9 x 9 table with the level label, got %d x %d, %d children" % (cells.nRows, cells.nColumns, table.childCount))
 cell = [[cells.getAccessibleAt(r, c) for c in range(9)] for r in range(9)]
-for r in range(9):
-    for c in range(9):
-        x = cell[r][c]
-        if x.getRole() != pyatspi.ROLE_TABLE_CELL or x.childCount or not x.name.startswith("Row %d, column %d: " % (r + 1, c + 1)):
-            fail("cell %d, %d reads %r (%s, %d children)" % (r, c, x.name, x.getRoleName(), x.childCount))
-bare = [n for n in names if re.fullmatch(r"\d", n or "")]
-if bare:
-    fail("bare digits read: %s" % bare)
-say("row 1: " + " | ".join(cell[0][c].name for c in range(9)))
-start_focus = wait_for(lambda: next((o for o in objects if o.getState().contains(pyatspi.STATE_FOCUSED)), None),
-                       "the focus at start")
-say("focus at start: %s (%s)" % (start_focus.name, start_focus.getRoleName()))
-if start_focus != table:
-    fail("the board has the focus at start")
+if (cells.nRows, cells.nColumns) != (9, 9):
+    fail("a 9 x 9 table")
+for r, c in ((r, c) for r in range(9) for c in range(9)):
+    if cell[r][c].childCount or not cell[r][c].name.startswith("Row %d, column %d: " % (r + 1, c + 1)):
+        fail("cell %d, %d reads %r" % (r, c, cell[r][c].name))
+if [o.name for o in objects if re.fullmatch(r"\d", o.name or "")]:
+    fail("a bare digit is read")
+say("row 1: " + " | ".join(x.name for x in cell[0]))
+wait_for(lambda: table.getState().contains(pyatspi.STATE_FOCUSED), "the board focused at start")
 
 
 def focused_cell():
-    for row in cell:
-        for x in row:
-            if x.getState().contains(pyatspi.STATE_FOCUSED):
-                return x
+    return next((x for row in cell for x in row if x.getState().contains(pyatspi.STATE_FOCUSED)), None)
 
 
-# Down gives the value caret to the first empty cell; the reader is told of the focus.
+def caret(x, mode):
+    wait_for(lambda: x.description.startswith(mode) if mode else not x.description, "%r on %s" % (mode, x.name))
+
+
+# Down gives the value caret to the first empty cell, and the reader the focus.
 key("Down")
 here = wait_for(focused_cell, "a focused cell after Down")
+caret(here, "Caret: value entry")
 say("Down: %s; %s" % (here.name, here.description))
-if not here.name.endswith(": empty") or here.description != "Caret: value entry":
-    fail("the first empty cell with the value caret")
-if ("object:state-changed:focused", here.name) not in heard:
-    fail("a focus event for %r, heard %s" % (here.name, heard))
+if not here.name.endswith(": empty") or ("focused", here.name) not in heard:
+    fail("the focus on the first empty cell")
 
-# Digits until one is taken; each refusal is said in words.
+# Digits until one is taken. Escape right after a digit waits while a refused one blinks, so the caret
+# goes only once the game has answered; the name says a refusal.
 prefix = here.name[: -len("empty")]
 for d in range(1, 10):
     del heard[:]
     key(str(d))
-    # The digit shows at once; a refused one blinks for 800 ms, then the name says so.
-    wait_for(lambda: here.name in (prefix + str(d), "%sempty; %d refused" % (prefix, d)), "the answer to %d" % d)
-    time.sleep(1.5)
-    pump()
-    outcome = here.name
-    say("%d: %s" % (d, outcome))
-    if ("object:property-change:accessible-name", outcome) not in heard:
-        fail("a name change to %r, heard %s" % (outcome, heard))
-    if outcome == prefix + str(d):
+    key("Escape")
+    caret(here, "")
+    say("%d: %s" % (d, here.name))
+    if ("accessible-name", here.name) not in heard:
+        fail("a name change to %r" % here.name)
+    if here.name == prefix + str(d):
         break
-    said = ("object:property-change:accessible-description", "Caret: value entry; %d refused" % d)
-    if said not in heard:
-        fail("the refusal in the description, heard %s" % heard)
+    key("Down")  # back to the cell it left
+    caret(here, "Caret: value entry")
 else:
     fail("no digit was taken")
 
-# The View menu from the keyboard: Alt+V, Return shows the pencil marks; the next Down reaches the board.
-key("alt+v")
-time.sleep(1)
-key("Return")
-time.sleep(1)
-key("Down")
-moved = wait_for(lambda: focused_cell() if focused_cell() != here else None, "the caret moved after the menu")
-say("Alt+V, Return, Down: %s; %s" % (moved.name, moved.description))
-if ", candidates " not in moved.name:
-    fail("the candidates in the name once pencil marks are shown")
-key("space")
-wait_for(lambda: moved.description == "Caret: pencil marks", "the pencil caret after Space")
-say("Space: %s; %s" % (moved.name, moved.description))
-key("Escape")
-wait_for(lambda: moved.description == "", "the caret gone after Escape")
-wait_for(lambda: table.getState().contains(pyatspi.STATE_FOCUSED), "the board focused after Escape")
-say("Escape: %s; caret gone, focus on %s" % (moved.name, table.name))
 
-# With no caret: Alt+V, Return hides the pencil marks, and Down brings the caret back to the cell it left.
-key("alt+v")
-time.sleep(1)
-key("Return")
-time.sleep(1)
-key("Down")
-back = wait_for(focused_cell, "a focused cell after the menu and Down")
-say("Alt+V, Return, Down: %s; %s" % (back.name, back.description))
-if back != moved or not back.name.endswith(": empty") or back.description != "Caret: value entry":
-    fail("the value caret back on the cell it left")
-finish(0)
+def pencil_marks_from_the_menu(shown):
+    key("alt+v")
+    item = wait_for(lambda: next(o for o in walk(app) if o.name == "Pencil Marks" and
+                                 o.getState().contains(pyatspi.STATE_FOCUSED)), "Pencil Marks in the View menu")
+    key("Return")
+    wait_for(lambda: item.getState().contains(pyatspi.STATE_CHECKED) == shown, "Pencil Marks switched")
+    wait_for(lambda: table.getState().contains(pyatspi.STATE_FOCUSED), "the board focused after the menu")
+
+
+def candidates(x):
+    return x.name.split("candidates ")[1].split() if "candidates " in x.name else []
+
+
+def next_cell(after):
+    key("Down")
+    x = wait_for(lambda: focused_cell() not in (None, after) and focused_cell(), "the caret after " + after.name)
+    caret(x, "Caret: value entry")
+    return x
+
+
+# With no caret: Alt+V, Return shows the pencil marks, and the next Down reaches the board.
+pencil_marks_from_the_menu(True)
+moved = next_cell(here)
+say("Alt+V, Return, Down: %s; %s" % (moved.name, moved.description))
+if len(candidates(moved)) == 1:  # Return enters a single candidate
+    value = candidates(moved)[0]
+    key("Return")
+    wait_for(lambda: moved.name.endswith(": " + value), "Return entering " + value)
+    say("Return: " + moved.name)
+# On, with Down (down the columns), to a cell with a choice, if one is left below.
+r, c = (int(n) - 1 for n in re.findall(r"\d+", moved.name)[:2])
+choice = any(len(candidates(cell[i % 9][i // 9])) > 1 for i in range(c * 9 + r, 81))
+while choice and len(candidates(moved)) < 2:
+    moved = next_cell(moved)
+# Space, then candidates toggled until one goes (the solution's is refused); Escape waits for the answer.
+for candidate in candidates(moved) if choice else []:
+    key("space")
+    caret(moved, "Caret: pencil marks")
+    before = moved.name
+    del heard[:]
+    key(candidate)
+    key("Escape")
+    caret(moved, "")
+    say("Space, %s: %s" % (candidate, moved.name))
+    if moved.name != before:
+        if ("accessible-name", moved.name) not in heard:
+            fail("a name change to %r" % moved.name)
+        break
+    key("Down")
+    caret(moved, "Caret: value entry")
+else:
+    if choice:
+        fail("no candidate could be toggled")
+    say("no cell with two candidates is left below: no pencil mark toggled")
+app_process.terminate()
+app_process.wait(30)
+report.close()
