@@ -14,7 +14,10 @@ namespace {
 
 const char* const kBoardName = "boardWidget";
 
-QString trTile(const char* text) { return QCoreApplication::translate("Tile", text); }
+QString refusal(const QString& text, int digit) {
+    //: %1 is a cell's name or its caret mode, %2 the digit the game refused there
+    return QCoreApplication::translate("Tile", "%1; %2 refused").arg(text).arg(digit);
+}
 
 QWidget* boardOf(const Tile* tile) {
     for (QWidget* w = tile->parentWidget(); w; w = w->parentWidget())
@@ -32,7 +35,8 @@ public:
                                                    : QAccessibleWidget::interface_cast(type);
     }
     QString text(QAccessible::Text t) const override {
-        return t == QAccessible::Name ? trTile("Sudoku board") : QAccessibleWidget::text(t);
+        if (t == QAccessible::Name) return QCoreApplication::translate("Tile", "Sudoku board");
+        return QAccessibleWidget::text(t);
     }
 
     int childCount() const override { return 81 + others().size(); }
@@ -44,7 +48,8 @@ public:
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
         if (!child) return -1;
-        if (auto* tile = qobject_cast<Tile*>(child->object())) return tileAt(tile->index()) == tile ? tile->index() : -1;
+        if (auto* tile = qobject_cast<Tile*>(child->object()))
+            return tileAt(tile->index()) == tile ? tile->index() : -1;
         const int k = others().indexOf(qobject_cast<QWidget*>(child->object()));
         return k < 0 ? -1 : 81 + k;
     }
@@ -194,30 +199,36 @@ void installBoardAccessibility() {
     QAccessible::installFactory(boardFactory);
 }
 
+// The words go through translation in the context "Tile"; %1 is the row and
+// %2 the column (1 to 9), so that a translation may order them as it needs.
 QString tileAccessibleName(const Tile& tile) {
     const int row = tile.index() / 9 + 1, column = tile.index() % 9 + 1;
     QString name;
-    if (tile.hasValue()) {
-        name = (tile.isGiven() ? trTile("Row %1, column %2: %3, given") : trTile("Row %1, column %2: %3"))
-                   .arg(row)
-                   .arg(column)
-                   .arg(tile.value());
+    if (tile.hasValue() && tile.isGiven()) {
+        //: %3 is the cell's digit, a given of the puzzle
+        name =
+            QCoreApplication::translate("Tile", "Row %1, column %2: %3, given").arg(row).arg(column).arg(tile.value());
+    } else if (tile.hasValue()) {
+        //: %3 is the digit the player (or Make Move) placed
+        name = QCoreApplication::translate("Tile", "Row %1, column %2: %3").arg(row).arg(column).arg(tile.value());
     } else if (tile.showsPencilMarks()) {
         QStringList candidates;
         for (int v = 1; v <= 9; ++v)
             if (tile.candidates() & (1 << v)) candidates << QString::number(v);
-        name = trTile("Row %1, column %2: empty, candidates %3").arg(row).arg(column).arg(candidates.join(' '));
+        //: %3 lists the digits still possible in the cell, such as "2 4 9"
+        name = QCoreApplication::translate("Tile", "Row %1, column %2: empty, candidates %3")
+                   .arg(row)
+                   .arg(column)
+                   .arg(candidates.join(' '));
     } else {
-        name = trTile("Row %1, column %2: empty").arg(row).arg(column);
+        name = QCoreApplication::translate("Tile", "Row %1, column %2: empty").arg(row).arg(column);
     }
-    if (tile.refusedValue()) name = trTile("%1; %2 refused").arg(name).arg(tile.refusedValue());
-    return name;
+    return tile.refusedValue() ? refusal(name, tile.refusedValue()) : name;
 }
 
 QString tileAccessibleDescription(const Tile& tile) {
     QString mode;
-    if (tile.caret() == Tile::ValueCaret) mode = trTile("Caret: value entry");
-    if (tile.caret() == Tile::PencilCaret) mode = trTile("Caret: pencil marks");
-    if (mode.isEmpty() || !tile.refusedValue()) return mode;
-    return trTile("%1; %2 refused").arg(mode).arg(tile.refusedValue());
+    if (tile.caret() == Tile::ValueCaret) mode = QCoreApplication::translate("Tile", "Caret: value entry");
+    if (tile.caret() == Tile::PencilCaret) mode = QCoreApplication::translate("Tile", "Caret: pencil marks");
+    return mode.isEmpty() || !tile.refusedValue() ? mode : refusal(mode, tile.refusedValue());
 }

@@ -43,7 +43,8 @@ class AccessibilityTest : public QObject {
     }
     void type(int digit) { press(Qt::Key(Qt::Key_0 + digit)); }
     void pencilMarks(bool on) {
-        if (child<QAction>(*window, "actionViewPencilMarks")->isChecked() != on) trigger(*window, "actionViewPencilMarks");
+        if (child<QAction>(*window, "actionViewPencilMarks")->isChecked() != on)
+            trigger(*window, "actionViewPencilMarks");
     }
 
 private slots:
@@ -146,7 +147,8 @@ private slots:
         ::events.clear();
         press(Qt::Key_Right);
         QCOMPARE(window->caret(), j);
-        QCOMPARE(::events, (QStringList{QString("%1:mode").arg(i), QString("%1:focus").arg(j), QString("%1:mode").arg(j)}));
+        QCOMPARE(::events,
+                 (QStringList{QString("%1:mode").arg(i), QString("%1:focus").arg(j), QString("%1:mode").arg(j)}));
         QVERIFY(cell(j)->state().focused);
         QVERIFY(cell(j)->state().selected);
         QCOMPARE(cell(j)->text(QAccessible::Description), QString("Caret: value entry"));
@@ -193,19 +195,28 @@ private slots:
     void badInput_data() {
         QTest::addColumn<int>("level");
         QTest::addColumn<bool>("pencil");
-        QTest::addColumn<QString>("keys");        // typed before, on a board with the value caret on the first empty cell
-        QTest::addColumn<QString>("during");      // typed while a refused value blinks, or while the board is celebrated
-        QTest::addColumn<int>("caret");           // where the caret ends: -1 none, 0 the first empty cell, 1 the next one
+        QTest::addColumn<QString>("keys");    // typed before, on a board with the value caret on the first empty cell
+        QTest::addColumn<QString>("during");  // typed while a refused value blinks, or while the board is celebrated
+        QTest::addColumn<int>("caret");       // where the caret ends: -1 none, 0 the first empty cell, 1 the next one
         QTest::addColumn<int>("mode");
-        QTest::newRow("escape without caret") << int(eng::lvlMedium) << true << "EE" << "" << -1 << 0;
-        QTest::newRow("space, pencil marks hidden") << int(eng::lvlMedium) << false << "S" << "" << 0 << 1;
-        QTest::newRow("return, pencil marks hidden") << int(eng::lvlMedium) << false << "R" << "" << 0 << 1;
-        QTest::newRow("return, many candidates") << int(eng::lvlUserEdit) << true << "SR" << "" << 0 << 2;
-        QTest::newRow("no empty cell") << int(eng::lvlCompleted) << true << "DSRLE" << "" << -1 << 0;
-        QTest::newRow("during a blink") << int(eng::lvlMedium) << true << "x" << "SDE" << -1 << 0;
-        QTest::newRow("during a blink, space") << int(eng::lvlMedium) << true << "x" << "S" << 0 << 2;
-        QTest::newRow("during a blink, right") << int(eng::lvlMedium) << true << "x" << ">" << 1 << 1;
-        QTest::newRow("during the celebration") << int(eng::lvlVeryEasy) << false << "c" << "DSREDL" << -1 << 0;
+        QTest::newRow("escape without caret") << int(eng::lvlMedium) << true << "EE"
+                                              << "" << -1 << 0;
+        QTest::newRow("space, pencil marks hidden") << int(eng::lvlMedium) << false << "S"
+                                                    << "" << 0 << 1;
+        QTest::newRow("return, pencil marks hidden") << int(eng::lvlMedium) << false << "R"
+                                                     << "" << 0 << 1;
+        QTest::newRow("return, many candidates") << int(eng::lvlUserEdit) << true << "SR"
+                                                 << "" << 0 << 2;
+        QTest::newRow("no empty cell") << int(eng::lvlCompleted) << true << "DSRLE"
+                                       << "" << -1 << 0;
+        QTest::newRow("during a blink") << int(eng::lvlMedium) << true << "x"
+                                        << "SDE" << -1 << 0;
+        QTest::newRow("during a blink, space") << int(eng::lvlMedium) << true << "x"
+                                               << "S" << 0 << 2;
+        QTest::newRow("during a blink, right") << int(eng::lvlMedium) << true << "x"
+                                               << ">" << 1 << 1;
+        QTest::newRow("during the celebration") << int(eng::lvlVeryEasy) << false << "c"
+                                                << "DSREDL" << -1 << 0;
     }
     void badInput() {
         QFETCH(int, level);
@@ -222,13 +233,15 @@ private slots:
         pencilMarks(pencil);
         const int first = firstEmpty(*window);
         if (keys.contains('c'))  // all but the first empty cell filled
-            for (int i = firstEmpty(*window, first); i >= 0; i = firstEmpty(*window, i)) board()->setValue(i, solution(i));
+            for (int i = firstEmpty(*window, first); i >= 0; i = firstEmpty(*window, i))
+                board()->setValue(i, solution(i));
         const int next = firstEmpty(*window, first);
         press(Qt::Key_Down);
         const auto send = [this](const QString& keys) {
             for (QChar k : keys) {
                 const char* from = "ESRDL>";
-                const Qt::Key key[] = {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Return, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right};
+                const Qt::Key key[] = {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Return,
+                                       Qt::Key_Down,   Qt::Key_Left,  Qt::Key_Right};
                 if (const char* at = strchr(from, k.toLatin1())) press(key[at - from]);
             }
         };
