@@ -142,8 +142,10 @@ private slots:
         QCOMPARE(name(i), cellName(i) + QString::number(solution(i)));
         for (int k = 0; k < 81; ++k)
             if (name(k) != before[k]) changed << QString("%1:name").arg(k);
-        QCOMPARE(::events, changed);
-        if (!pencil) QCOMPARE(changed.size(), 1);  // shown, the candidates the value takes from its peers change too
+        ::events.sort();
+        changed.sort();
+        QCOMPARE(::events, changed);  // once each: the digit shows at once, and the engine's answer changes nothing
+        if (!pencil) QCOMPARE(changed.size(), 1);  // shown, the candidates that the value takes from its peers go too
         ::events.clear();
         press(Qt::Key_Right);
         QCOMPARE(window->caret(), j);
