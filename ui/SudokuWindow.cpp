@@ -72,7 +72,7 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     qApp->installEventFilter(this);
     // The board holds the keyboard from the start, so a player without a mouse
     // can begin, and a menu used from the keyboard gives the keys back to it.
-    ui->boardWidget->setFocusPolicy(Qt::TabFocus);
+    // Like the tiles, it takes no focus by Tab or click: Tab leaves the caret's keys where they are.
     ui->boardWidget->setFocus(Qt::OtherFocusReason);
 
     newGameStep(eng::lvlMedium, true);

@@ -175,6 +175,8 @@ private slots:
         press(Qt::Key_Space);
         QCOMPARE(window->tileAt(c)->caret(), Tile::PencilCaret);
         QCOMPARE(cell(c)->text(QAccessible::Description), QString("Caret: pencil marks"));
+        press(Qt::Key_Tab);  // takes nothing away from the caret
+        QCOMPARE(window->focusWidget(), window->tileAt(c));
         // Every candidate but the solution toggled off; Return then enters the one left.
         for (int v = 1; v <= 9; ++v)
             if (v != solution(c) && board()->cell(c)->isPotential(v)) {
