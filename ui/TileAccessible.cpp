@@ -38,6 +38,11 @@ public:
         if (t == QAccessible::Name) return QCoreApplication::translate("Tile", "Sudoku board");
         return QAccessibleWidget::text(t);
     }
+    QAccessible::State state() const override {
+        QAccessible::State s = QAccessibleWidget::state();
+        s.focusable = true;  // given the focus at start and by Escape, though not by Tab
+        return s;
+    }
 
     int childCount() const override { return 81 + others().size(); }
     QAccessibleInterface* child(int index) const override {
