@@ -1,8 +1,8 @@
 // How long the window takes to show what the player asked for, measured on the
 // real widgets: a move, a retraction, a value entry (slot call to return, the
-// repaint included), a click, a new game at each level (from the engine's report of the
-// finished game to the return of the command), and start-up (application
-// object to the first painted board, in a fresh process each time).
+// repaint included), a click, a new game at each level (from the engine's
+// report of the finished game to the return of the command), and start-up
+// (application object to the first painted board, in a fresh process each time).
 // Run it on the platform to measure: QT_QPA_PLATFORM=offscreen, or under
 // scripts/with-display.sh for xcb.
 #include <benchmark/benchmark.h>

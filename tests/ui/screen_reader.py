@@ -1,11 +1,16 @@
 #!/usr/bin/python3
 # Reads the running game over AT-SPI as a screen reader does, while xdotool plays it with keys alone.
 # usage: scripts/with-display.sh scripts/with-accessibility-bus.sh screen_reader.py GAME REPORT
-import re, subprocess, sys, time
+import os, re, shutil, subprocess, sys, time
 
-import pyatspi
-from gi.repository import GLib
-
+try:
+    import pyatspi
+    from gi.repository import GLib
+except ImportError as missing:
+    sys.exit(print("SKIPPED: %s (scripts/deps.sh installs python3-pyatspi)" % missing) or 77)
+if not shutil.which("xdotool"):
+    sys.exit(print("SKIPPED: xdotool is missing") or 77)
+os.makedirs(os.path.dirname(os.path.abspath(sys.argv[2])), exist_ok=True)
 game, report = sys.argv[1], open(sys.argv[2], "w")
 heard = []  # (event, name) of every name change and focus the reader hears of
 
