@@ -1,8 +1,8 @@
 // How long the window takes to show what the player asked for, measured on the
 // real widgets: a move, a retraction, a value entry (slot call to return, the
-// repaint included), a new game at each level (from the engine's report of the
-// finished game to the return of the command), and start-up (application
-// object to the first painted board, in a fresh process each time).
+// repaint included), a click, a new game at each level (from the engine's
+// report of the finished game to the return of the command), and start-up
+// (application object to the first painted board, in a fresh process each time).
 // Run it on the platform to measure: QT_QPA_PLATFORM=offscreen, or under
 // scripts/with-display.sh for xcb.
 #include <benchmark/benchmark.h>
@@ -98,6 +98,30 @@ void BM_ValueEntry(benchmark::State& state) {
     report(state, millis);
 }
 BENCHMARK(BM_ValueEntry)->Iterations(200)->Unit(benchmark::kMillisecond);
+
+// A left click on an empty cell (the value caret comes) and one on a given
+// (its value is highlighted): until the click is handled, and until the
+// repaint that follows it is done.
+void BM_Click(benchmark::State& state) {
+    TimedWindow& w = window();
+    int given = 0;
+    while (!w.tileAt(given)->isGiven()) ++given;
+    std::vector<double> handled, painted;
+    for (auto _ : state) {
+        for (int i : {firstEmpty(w), given}) {
+            QElapsedTimer t;
+            t.start();
+            QTest::mouseClick(w.tileAt(i), Qt::LeftButton);
+            handled.push_back(msSince(t));
+            QCoreApplication::processEvents();
+            painted.push_back(msSince(t));
+        }
+    }
+    report(state, handled);
+    state.counters["painted_median_ms"] = percentile(painted, 0.5);
+    state.counters["painted_p99_ms"] = percentile(painted, 0.99);
+}
+BENCHMARK(BM_Click)->Iterations(100)->Unit(benchmark::kMillisecond);
 
 // A new game at each level on the window's board: the time from the engine's
 // report of the finished game until the board is shown and the call returns.

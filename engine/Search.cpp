@@ -1,5 +1,6 @@
 // Make move: re-applying retracted positions, revealing the stored solution,
 // and the randomised depth-first search with its limits.
+#include <climits>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -121,7 +122,9 @@ bool Board::guessOne(PlaceKind kind) {
     if (!history.back()->emptyCells(cells)) return false;
     Cell* chosen = chooseCell(cells, phase);
     const bool placed = tryValues(chosen, kind);
-    if (++masterSolution.guessCount > kMaxGuesses) throw ExCellConflict(CellConflict::tooManyGuesses, -1, 0);
+    // Both counters may come from a saved game at any value up to INT_MAX: they stop there instead of wrapping.
+    if (masterSolution.guessCount < INT_MAX) ++masterSolution.guessCount;
+    if (masterSolution.guessCount > kMaxGuesses) throw ExCellConflict(CellConflict::tooManyGuesses, -1, 0);
     return placed;
 }
 
@@ -131,7 +134,7 @@ bool Board::tryValues(Cell* cell, PlaceKind kind) {
     shuffle(values);
     const int index = cell->index();  // the cell lives in a position that may be copied
     for (int value : values) {
-        ++masterSolution.triedValueCount;
+        if (masterSolution.triedValueCount < INT_MAX) ++masterSolution.triedValueCount;
         if (placeValueAs(index, value, kind)) return true;
     }
     return false;

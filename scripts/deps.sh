@@ -11,6 +11,7 @@ packages=(
   poppler-utils
   xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils libxcb1-dev
   stress-ng desktop-file-utils appstream ccache
+  at-spi2-core dbus-x11 libglib2.0-bin python3-pyatspi
   dpkg-dev file
 )
 

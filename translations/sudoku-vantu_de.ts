@@ -476,5 +476,41 @@ Fortfahren?</translation>
         <source>Form</source>
         <translation>Formular</translation>
     </message>
+    <message>
+        <source>%1; %2 refused</source>
+        <extracomment>%1 is a cell&apos;s name or its caret mode, %2 the digit the game refused there</extracomment>
+        <translation>%1; %2 abgelehnt</translation>
+    </message>
+    <message>
+        <source>Sudoku board</source>
+        <translation>Sudoku-Spielfeld</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3, given</source>
+        <extracomment>%3 is the cell&apos;s digit, a given of the puzzle</extracomment>
+        <translation>Zeile %1, Spalte %2: %3, vorgegeben</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3</source>
+        <extracomment>%3 is the digit the player (or Make Move) placed</extracomment>
+        <translation>Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty, candidates %3</source>
+        <extracomment>%3 lists the digits still possible in the cell, such as &quot;2 4 9&quot;</extracomment>
+        <translation>Zeile %1, Spalte %2: leer, Kandidaten %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty</source>
+        <translation>Zeile %1, Spalte %2: leer</translation>
+    </message>
+    <message>
+        <source>Caret: value entry</source>
+        <translation>Cursor: Zifferneingabe</translation>
+    </message>
+    <message>
+        <source>Caret: pencil marks</source>
+        <translation>Cursor: Notizen</translation>
+    </message>
 </context>
 </TS>

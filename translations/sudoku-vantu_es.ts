@@ -476,5 +476,41 @@ Continue?</source>
         <source>Form</source>
         <translation>Formulario</translation>
     </message>
+    <message>
+        <source>%1; %2 refused</source>
+        <extracomment>%1 is a cell&apos;s name or its caret mode, %2 the digit the game refused there</extracomment>
+        <translation>%1; %2 rechazado</translation>
+    </message>
+    <message>
+        <source>Sudoku board</source>
+        <translation>Tablero de sudoku</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3, given</source>
+        <extracomment>%3 is the cell&apos;s digit, a given of the puzzle</extracomment>
+        <translation>Fila %1, columna %2: %3, pista</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3</source>
+        <extracomment>%3 is the digit the player (or Make Move) placed</extracomment>
+        <translation>Fila %1, columna %2: %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty, candidates %3</source>
+        <extracomment>%3 lists the digits still possible in the cell, such as &quot;2 4 9&quot;</extracomment>
+        <translation>Fila %1, columna %2: vacía, candidatos %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty</source>
+        <translation>Fila %1, columna %2: vacía</translation>
+    </message>
+    <message>
+        <source>Caret: value entry</source>
+        <translation>Cursor: introducir números</translation>
+    </message>
+    <message>
+        <source>Caret: pencil marks</source>
+        <translation>Cursor: anotaciones</translation>
+    </message>
 </context>
 </TS>

@@ -476,5 +476,41 @@ Continuer ?</translation>
         <source>Form</source>
         <translation>Formulaire</translation>
     </message>
+    <message>
+        <source>%1; %2 refused</source>
+        <extracomment>%1 is a cell&apos;s name or its caret mode, %2 the digit the game refused there</extracomment>
+        <translation>%1 ; %2 refusé</translation>
+    </message>
+    <message>
+        <source>Sudoku board</source>
+        <translation>Grille de Sudoku</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3, given</source>
+        <extracomment>%3 is the cell&apos;s digit, a given of the puzzle</extracomment>
+        <translation>Ligne %1, colonne %2 : %3, donné</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3</source>
+        <extracomment>%3 is the digit the player (or Make Move) placed</extracomment>
+        <translation>Ligne %1, colonne %2 : %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty, candidates %3</source>
+        <extracomment>%3 lists the digits still possible in the cell, such as &quot;2 4 9&quot;</extracomment>
+        <translation>Ligne %1, colonne %2 : vide, candidats %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty</source>
+        <translation>Ligne %1, colonne %2 : vide</translation>
+    </message>
+    <message>
+        <source>Caret: value entry</source>
+        <translation>Curseur : saisie des chiffres</translation>
+    </message>
+    <message>
+        <source>Caret: pencil marks</source>
+        <translation>Curseur : annotations</translation>
+    </message>
 </context>
 </TS>

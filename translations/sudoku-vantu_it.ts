@@ -476,5 +476,41 @@ Continuare?</translation>
         <source>Form</source>
         <translation>Modulo</translation>
     </message>
+    <message>
+        <source>%1; %2 refused</source>
+        <extracomment>%1 is a cell&apos;s name or its caret mode, %2 the digit the game refused there</extracomment>
+        <translation>%1; %2 rifiutato</translation>
+    </message>
+    <message>
+        <source>Sudoku board</source>
+        <translation>Griglia del Sudoku</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3, given</source>
+        <extracomment>%3 is the cell&apos;s digit, a given of the puzzle</extracomment>
+        <translation>Riga %1, colonna %2: %3, dato</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3</source>
+        <extracomment>%3 is the digit the player (or Make Move) placed</extracomment>
+        <translation>Riga %1, colonna %2: %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty, candidates %3</source>
+        <extracomment>%3 lists the digits still possible in the cell, such as &quot;2 4 9&quot;</extracomment>
+        <translation>Riga %1, colonna %2: vuota, candidati %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty</source>
+        <translation>Riga %1, colonna %2: vuota</translation>
+    </message>
+    <message>
+        <source>Caret: value entry</source>
+        <translation>Cursore: inserimento cifre</translation>
+    </message>
+    <message>
+        <source>Caret: pencil marks</source>
+        <translation>Cursore: candidati</translation>
+    </message>
 </context>
 </TS>

@@ -15,6 +15,7 @@
 #include <sstream>
 
 #include "AboutDialog.h"
+#include "TileAccessible.h"
 #include "ui_SudokuWindow.h"
 
 namespace {
@@ -34,10 +35,15 @@ const char* levelLabel(int level) {
     }
 }
 
+bool isArrow(int key) {
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
 }  // namespace
 
 SudokuWindow::SudokuWindow(QWidget* parent)
     : QMainWindow(parent), ui(new Ui::SudokuWindowClass) {
+    installBoardAccessibility();
     ui->setupUi(this);
     // One walk over the board finds all 81 tiles; the form gives each its index.
     for (Tile* tile : ui->boardWidget->findChildren<Tile*>())
@@ -64,6 +70,10 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     deferredTimer.setInterval(0);
     connect(&deferredTimer, &QTimer::timeout, this, &SudokuWindow::runDeferred);
     qApp->installEventFilter(this);
+    // The board holds the keyboard from the start, so a player without a mouse
+    // can begin, and a menu used from the keyboard gives the keys back to it.
+    // Like the tiles, it takes no focus by Tab or click: Tab leaves the caret's keys where they are.
+    ui->boardWidget->setFocus(Qt::OtherFocusReason);
 
     newGameStep(eng::lvlMedium, true);
     setLevelLabel(eng::lvlMedium);
@@ -149,15 +159,16 @@ bool SudokuWindow::eventFilter(QObject* watched, QEvent* event) {
     auto* key = static_cast<QKeyEvent*>(event);
     bool digit = false;
     const int number = key->text().toInt(&digit, 10);
-    const bool arrow = key->key() == Qt::Key_Left || key->key() == Qt::Key_Right || key->key() == Qt::Key_Up ||
-                       key->key() == Qt::Key_Down;
-    if (!arrow && !(digit && number >= 1 && number <= 9)) return false;
+    if (!isArrow(key->key()) && !(digit && number >= 1 && number <= 9)) return false;
     defer([this, k = key->key(), m = key->modifiers(), t = key->text()] { replayKey(k, m, t); });
     return true;
 }
 
 void SudokuWindow::replayKey(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
-    if (caretIndex < 0) return;
+    if (caretIndex < 0) {
+        if (isArrow(key)) caretFromKeyboard();
+        return;
+    }
     QKeyEvent event(QEvent::KeyRelease, key, modifiers, text);
     replayedKey = &event;
     QCoreApplication::sendEvent(tiles[caretIndex], &event);
@@ -269,7 +280,58 @@ void SudokuWindow::showMessage(int icon, const QString& text) {
 void SudokuWindow::hideCaretIfAny() {
     if (caretIndex == -1) return;
     tiles[caretIndex]->hideCaret();
+    lastCaretIndex = caretIndex;
     caretIndex = -1;
+}
+
+// ---------------------------------------------------------------------------
+// The board's own keys, beside the mouse: with no caret an arrow brings the
+// value caret back; Escape takes the caret away, Space switches its mode, and
+// Return enters a single candidate. Keys on a tile with the caret reach the
+// tile first, as before; what it does not use comes up to the window. Escape,
+// Space and Return act on the press, so the release of a Return that chose a
+// menu entry does nothing here.
+
+void SudokuWindow::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    const bool board = key == Qt::Key_Escape || key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!board || (event->modifiers() & ~Qt::KeypadModifier)) return QMainWindow::keyPressEvent(event);
+    if (mustDefer())
+        defer([this, key] { boardKey(key); });
+    else
+        boardKey(key);
+}
+
+void SudokuWindow::keyReleaseEvent(QKeyEvent* event) {
+    if (!isArrow(event->key()) || (event->modifiers() & ~Qt::KeypadModifier) || caretIndex != -1)
+        return QMainWindow::keyReleaseEvent(event);
+    caretFromKeyboard();
+}
+
+void SudokuWindow::boardKey(int key) {
+    if (!board || busy || caretIndex == -1) return;
+    Tile* tile = tiles[caretIndex];
+    if (key == Qt::Key_Escape) {
+        hideCaretIfAny();
+        ui->boardWidget->setFocus(Qt::OtherFocusReason);  // a reader is back on the board
+    } else if (key == Qt::Key_Space) {
+        if (tile->caret() == Tile::PencilCaret)
+            tile->showValueCaret();
+        else
+            placePencilCaret(caretIndex);
+    } else {
+        tile->enterSingleCandidate();
+    }
+}
+
+// The value caret goes back to the cell it last left while that is empty,
+// else to the first empty cell; as a click there would put it.
+void SudokuWindow::caretFromKeyboard() {
+    if (!board || busy || caretIndex != -1) return;
+    int i = lastCaretIndex >= 0 && !tiles[lastCaretIndex]->hasValue() ? lastCaretIndex : -1;
+    for (int k = 0; i < 0 && k < 81; ++k)
+        if (!tiles[k]->hasValue()) i = k;
+    if (i >= 0) tileLeftClicked(i);
 }
 
 bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
@@ -280,6 +342,7 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
         if (answer != QMessageBox::Yes) return false;
     }
     hideCaretIfAny();
+    lastCaretIndex = -1;
     delete board;
     board = new eng::Board(this);
     board->setPencilMarksRules(selectedRules());
@@ -419,6 +482,7 @@ void SudokuWindow::tileMoveCaret(int index, Tile::CaretDirection direction) {
 
     if (caretIndex == -1) return;
     const Tile::CaretMode mode = tiles[caretIndex]->hideCaret();
+    lastCaretIndex = caretIndex;
     caretIndex = -1;
     if (mode == Tile::ValueCaret) {
         caretIndex = i;
@@ -547,6 +611,7 @@ void SudokuWindow::openGame() {
         if (loaded) {
             delete board;
             board = next;
+            lastCaretIndex = -1;
             showWholeBoard();
         } else {
             delete next;

@@ -52,7 +52,8 @@ public:
     QString levelText() const;
     // A4 portrait, full page, no margins: how every print starts.
     static void preparePrinter(QPrinter& printer);
-    bool isBusy() const { return busy > 0; }
+    // Also while input held back meanwhile is still to be carried out.
+    bool isBusy() const { return busy > 0 || !deferred.empty(); }
 
 public slots:
     void tileLeftClicked(int index);
@@ -90,6 +91,8 @@ public slots:
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
     Ui::SudokuWindowClass* ui;
@@ -99,6 +102,7 @@ private:
     std::unique_ptr<PrintingInfo> printingInfo;
     std::unique_ptr<PencilMarksOptions> pencilMarksOptions;
     int caretIndex = -1;
+    int lastCaretIndex = -1;  // the cell the caret last left, for the keyboard
     bool markChanges = false;
     int highlightedValue = 0;
 
@@ -140,6 +144,8 @@ private:
     void enterValue(int index, int value);
     bool beginTileClick(int index);
     void hideCaretIfAny();
+    void boardKey(int key);
+    void caretFromKeyboard();
     void updateTiles(const std::vector<eng::CellInfo*>& cells, bool mark);
     void repaintNow();
     void showWholeBoard();

@@ -1,5 +1,6 @@
 #include "Tile.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -124,6 +125,7 @@ int Tile::index() const { return index_; }
 void Tile::setIndex(int index) { index_ = index; }
 
 void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
+    given = cell.origin() == eng::originGiven;
     const QString* base = cell.origin() == eng::originGiven ? &styleTileGiven
                           : caretMode == NoCaret                 ? &styleTileNormal
                                                                  : nullptr;
@@ -178,6 +180,7 @@ void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
         else
             setSheet(label, stylePotentialOff);
     }
+    announce();
 }
 
 void Tile::showPencilMarks(bool show) {
@@ -186,6 +189,7 @@ void Tile::showPencilMarks(bool show) {
     if (valueLabel->text() != QLatin1String("0")) return;
     for (QLabel* label : potentials) setShown(label, show);
     resetPotentialStyles();
+    announce();
 }
 
 void Tile::resetPotentialStyles() {
@@ -196,12 +200,14 @@ void Tile::showValueCaret() {
     setTileSheet(styleValueCaret);
     caretMode = ValueCaret;
     setFocus(Qt::OtherFocusReason);
+    announceCaret();
 }
 
 void Tile::showPencilCaret() {
     setTileSheet(stylePencilCaret);
     caretMode = PencilCaret;
     setFocus(Qt::OtherFocusReason);
+    announceCaret();
 }
 
 Tile::CaretMode Tile::hideCaret() {
@@ -214,6 +220,7 @@ Tile::CaretMode Tile::hideCaret() {
         setTileSheet(styleTileNormal);
     }
     caretMode = NoCaret;
+    if (previous != NoCaret) announceCaret();
     return previous;
 }
 
@@ -262,6 +269,7 @@ bool Tile::pause() {
 void Tile::rejectValue() {
     if (animating) return;
     animating = true;
+    const int digit = value();
     setTileSheet(styleRejectedValue);
     for (int step = 0; step < kAnimationSteps; ++step) {
         if (!pause()) return;
@@ -272,6 +280,10 @@ void Tile::rejectValue() {
     setShown(valueLabel, false);
     for (QLabel* label : potentials) setShown(label, pencilMarksShown);
     animating = false;
+    refused = digit;
+    refusedContent = content();
+    announce();
+    announceCaret();  // the description says so too
 }
 
 // Ends with the candidate shown only if pencil marks are still switched on:
@@ -342,6 +354,50 @@ void Tile::showValue(int v) {
     valueLabel->setText(QString::number(v));
     setShown(valueLabel, true);
     for (QLabel* label : potentials) setShown(label, false);
+    announce();
+}
+
+bool Tile::enterSingleCandidate() {
+    if (caretMode == NoCaret || animating || hasValue() || !pencilMarksShown) return false;
+    const int k = singleEnabledPotential();
+    if (k < 0) return false;
+    showValue(k + 1);
+    emit valueEdited(index_, k + 1);
+    return true;
+}
+
+int Tile::candidates() const {
+    int mask = 0;
+    for (int v = 1; v <= 9; ++v)
+        if (isEnabledHere(potentials[v - 1])) mask |= 1 << v;
+    return mask;
+}
+
+// What a reader says of the cell, as one number: its value, whether it is a
+// given, and the candidates while they are shown.
+int Tile::content() const {
+    if (hasValue()) return value() | (given ? 16 : 0);
+    return pencilMarksShown ? 32 | candidates() << 6 : 0;
+}
+
+// A reader hears the new name of a cell whose content changed, and only then;
+// nothing is built while no assistive technology listens. A refusal is part of
+// the name until the cell holds something else.
+void Tile::announce() {
+    if (refused && content() != refusedContent) refused = 0;
+    if (!QAccessible::isActive()) return;
+    const int now = content();
+    const int key = now | refused << 16;
+    if (key == announcedContent) return;
+    announcedContent = key;
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
+void Tile::announceCaret() {
+    if (!QAccessible::isActive()) return;
+    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
 }
 
 void Tile::togglePotential(int v) {

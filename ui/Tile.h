@@ -62,6 +62,13 @@ public:
     void flashPotential(int value);
 
     CaretMode caret() const { return caretMode; }
+    bool isGiven() const { return given; }
+    bool showsPencilMarks() const { return pencilMarksShown; }
+    int candidates() const;  // bit v set for each candidate v
+    int refusedValue() const { return refused; }  // the last refused digit, until the cell changes
+    // Return with the caret on an empty cell whose single candidate is shown:
+    // enters that candidate, as a typed digit would. False when it does not apply.
+    bool enterSingleCandidate();
     bool isHighlighted() const { return highlighted; }
     bool isAnimating() const { return animating; }
 
@@ -90,6 +97,14 @@ private:
     QString savedStyleSheet;
     bool animating = false;
     QList<QWidget*> unpolished;  // hidden labels still styled for an earlier tile sheet
+    bool given = false;
+    int refused = 0;
+    int refusedContent = 0;   // what the cell held when its value was refused
+    int announcedContent = -1;  // what assistive technology was last told
+
+    int content() const;
+    void announce();
+    void announceCaret();
 
     void setTileSheet(const QString& sheet);
     void setShown(QWidget* widget, bool shown);

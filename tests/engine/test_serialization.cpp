@@ -1,7 +1,9 @@
 // Saved games: hostile files (round trips are checked by random play, the layout by the recorded games).
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <stdexcept>
+#include <tuple>
 
 #include "BoardTestSupport.h"
 
@@ -55,3 +57,59 @@ TEST(SavedGames, RefusedFilesLeaveTheGameUntouched) {
     EXPECT_FALSE(board.makeMove() || board.setValue(0, 1));
     EXPECT_FALSE(load(board, withInt(empty, 38, 3)));  // phase 3 without positions
 }
+
+// Every int of a saved game that meets arithmetic, set to the values at the edges of its range and of int itself.
+// A game that loads must then survive a run of play; the sanitizer build turns any overflow into a failure.
+class ExtremeInts : public testing::TestWithParam<std::tuple<int, int>> {
+protected:
+    // A User Edit game of three positions and one retracted: counters at 16 and 20, no solution, history at 26.
+    static std::string userEditGame() {
+        testing_support::seedRandom(77);
+        Board board(nullptr);
+        board.generate(lvlUserEdit);
+        board.setValue(0, 5), board.setValue(40, 3), board.makeMove(), board.retract();
+        return saved(board);
+    }
+};
+
+TEST_P(ExtremeInts, RefusedOrPlayable) {
+    static const std::string good = userEditGame();
+    const auto [offset, value] = GetParam();
+    const int undone = 26 + 4 + 1790 * 3, cell40 = 30 + 1790 * 2 + 22 * 40;
+    const int where = offset == 1 ? undone : offset == 2 ? cell40 : offset == 3 ? undone - 8 : offset;
+    const std::string file = withInt(good, where >= 0 ? where : int(good.size()) + where, value);
+    testing_support::Transcript t;
+    Board board(&t);
+    if (!load(board, file)) {
+        EXPECT_EQ(t.take(), "loadFailed 2 -1\n");
+        return;
+    }
+    const int guesses = offset == 20 ? value : 0;
+    for (int move = 0; move < 3; ++move) {
+        const size_t before = board.historySize();
+        t.take();
+        const bool moved = board.makeMove();
+        // Past 100 guesses every make move still places its first guess, then reports that there is no move (the
+        // first one brings back the retracted position).
+        if (guesses >= 100 && move > 0) {
+            EXPECT_FALSE(moved);
+            EXPECT_EQ(board.historySize(), before + 1);
+            EXPECT_EQ(t.text.substr(t.text.rfind('\n', t.text.size() - 2) + 1), "noMoreMoves 81\n");
+        }
+    }
+    board.retract(), board.togglePotential(80, 9), board.setValue(79, 1), board.applyPencilMarksRule(ruleSingles);
+    EXPECT_EQ(t.problem, "");
+    const std::string bytes = saved(board);
+    Board twin(nullptr);
+    ASSERT_TRUE(load(twin, bytes));
+    EXPECT_EQ(saved(twin), bytes);
+    if (offset == 16 && value == INT_MAX) {
+        EXPECT_EQ(bytes.substr(16, 4), withInt(good, 16, INT_MAX).substr(16, 4));
+    }
+}
+
+// Offsets 1, 2 and 3 stand for the undone count, cell 40's index and the newest position's guess index; negative
+// offsets count from the end (level, phase, attempt).
+INSTANTIATE_TEST_SUITE_P(SavedGames, ExtremeInts,
+                         testing::Combine(testing::Values(16, 20, 26, 1, 2, 3, -12, -8, -4),
+                                          testing::Values(INT_MIN, -1, 0, 80, 81, 100, 101, INT_MAX)));

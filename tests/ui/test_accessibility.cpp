@@ -1,0 +1,267 @@
+// What assistive technology reads of the board, and the board played from the keyboard alone.
+#include <QAccessible>
+#include <QLabel>
+#include <cstring>
+// The offscreen platform has no screen reader; its accessibility is switched on by hand, as Qt's own tests do.
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include "WindowTestSupport.h"
+
+namespace {
+
+// The accessibility events of the board and its tiles, as "tile index:kind".
+QStringList events;
+void record(QAccessibleEvent* event) {
+    const char* kind = event->type() == QAccessible::NameChanged          ? "name"
+                       : event->type() == QAccessible::DescriptionChanged ? "mode"
+                       : event->type() == QAccessible::Focus              ? "focus"
+                                                                          : nullptr;
+    auto* tile = qobject_cast<Tile*>(event->object());
+    if (kind && tile) events << QString("%1:%2").arg(tile->index()).arg(kind);
+    if (kind && event->object()->objectName() == "boardWidget") events << QString("board:%1").arg(kind);
+}
+
+QString cellName(int i) { return QString("Row %1, column %2: ").arg(i / 9 + 1).arg(i % 9 + 1); }
+
+}  // namespace
+
+class AccessibilityTest : public QObject {
+    Q_OBJECT
+
+    SudokuWindow* window = nullptr;
+    eng::Board* board() { return window->currentBoard(); }
+    QAccessibleInterface* cell(int i) { return QAccessible::queryAccessibleInterface(window->tileAt(i)); }
+    QString name(int i) { return cell(i)->text(QAccessible::Name); }
+    int solution(int i) { return board()->solutionValue(i); }
+
+    // A key typed where the keyboard is: an open menu, else the focused widget.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QWidget* to = QApplication::activePopupWidget() ? QApplication::activePopupWidget() : window->focusWidget();
+        QTest::keyClick(to ? to : window, key, modifiers);
+    }
+    void type(int digit) { press(Qt::Key(Qt::Key_0 + digit)); }
+    void pencilMarks(bool on) {
+        if (child<QAction>(*window, "actionViewPencilMarks")->isChecked() != on)
+            trigger(*window, "actionViewPencilMarks");
+    }
+
+private slots:
+    void initTestCase() {
+        QAccessible::installUpdateHandler(record);
+        QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
+        QVERIFY(QAccessible::isActive());
+    }
+    void init() {
+        window = shownWindow();
+        QApplication::setActiveWindow(window);
+        QVERIFY(QTest::qWaitForWindowActive(window));
+    }
+    void cleanup() {
+        delete window;
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        qApp->exec();
+    }
+
+    // A 9 x 9 table of leaf cells at their row and column; the tiles' labels are not in it.
+    void tableShape() {
+        QAccessibleInterface* table = QAccessible::queryAccessibleInterface(child<QWidget>(*window, "boardWidget"));
+        QCOMPARE(table->role(), QAccessible::Table);
+        QCOMPARE(table->text(QAccessible::Name), QString("Sudoku board"));
+        QAccessibleTableInterface* t = table->tableInterface();
+        QVERIFY(t);
+        QCOMPARE(t->rowCount(), 9);
+        QCOMPARE(t->columnCount(), 9);
+        QCOMPARE(table->childCount(), 82);  // the cells and the level label
+        QCOMPARE(table->child(81)->text(QAccessible::Name), QString("difficulty: Medium"));
+        for (int i = 0; i < 81; ++i) {
+            QAccessibleInterface* c = t->cellAt(i / 9, i % 9);
+            QCOMPARE(c->object(), window->tileAt(i));
+            QCOMPARE(table->child(i), c);
+            QCOMPARE(table->indexOfChild(c), i);
+            QCOMPARE(c->role(), QAccessible::Cell);
+            QCOMPARE(c->childCount(), 0);
+            QCOMPARE(c->parent(), table);
+            QCOMPARE(c->tableCellInterface()->rowIndex(), i / 9);
+            QCOMPARE(c->tableCellInterface()->columnIndex(), i % 9);
+            QCOMPARE(c->tableCellInterface()->table(), table);
+            QCOMPARE(table->childAt(c->rect().center().x(), c->rect().center().y()), c);
+            for (QLabel* label : window->tileAt(i)->findChildren<QLabel*>())
+                QVERIFY(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name).isEmpty());
+        }
+    }
+
+    // The names of a given, a player's, an empty, a pencil-marked and a refused cell.
+    void names_data() {
+        QTest::addColumn<QString>("kind");
+        for (const char* kind : {"given", "player", "empty", "pencil", "refused"}) QTest::newRow(kind) << kind;
+    }
+    void names() {
+        QFETCH(QString, kind);
+        int i = firstEmpty(*window);
+        QString expected = cellName(i) + "empty";
+        if (kind == "given") {
+            i = 0;
+            while (!window->tileAt(i)->isGiven()) ++i;
+            expected = cellName(i) + QString("%1, given").arg(solution(i));
+        } else if (kind == "player" || kind == "refused") {
+            press(Qt::Key_Down);
+            QCOMPARE(window->caret(), i);
+            type(kind == "player" ? solution(i) : solution(i) % 9 + 1);
+            expected = kind == "player" ? cellName(i) + QString::number(solution(i))
+                                        : QString("%1empty; %2 refused").arg(cellName(i)).arg(solution(i) % 9 + 1);
+        } else if (kind == "pencil") {
+            pencilMarks(true);
+            QStringList candidates;
+            for (int v = 1; v <= 9; ++v)
+                if (board()->cell(i)->isPotential(v)) candidates << QString::number(v);
+            expected += ", candidates " + candidates.join(' ');
+        }
+        QCOMPARE(name(i), expected);
+        if (kind == "refused")  // in words in the description too, which readers speak for the focused cell
+            QCOMPARE(cell(i)->text(QAccessible::Description),
+                     QString("Caret: value entry; %1 refused").arg(solution(i) % 9 + 1));
+    }
+
+    // Only the tile that changes is announced; the focus and the caret's mode follow the caret.
+    void events_data() {
+        QTest::addColumn<bool>("pencil");
+        QTest::newRow("pencil marks hidden") << false;
+        QTest::newRow("pencil marks shown") << true;
+    }
+    void events() {
+        QFETCH(bool, pencil);
+        pencilMarks(pencil);
+        const int i = firstEmpty(*window), j = firstEmpty(*window, i);
+        press(Qt::Key_Down);
+        QStringList before, changed;
+        for (int k = 0; k < 81; ++k) before << name(k);
+        ::events.clear();
+        type(solution(i));
+        QCOMPARE(name(i), cellName(i) + QString::number(solution(i)));
+        for (int k = 0; k < 81; ++k)
+            if (name(k) != before[k]) changed << QString("%1:name").arg(k);
+        ::events.sort();
+        changed.sort();
+        QCOMPARE(::events, changed);  // once each: the digit shows at once, and the engine's answer changes nothing
+        if (!pencil) QCOMPARE(changed.size(), 1);  // shown, the candidates that the value takes from its peers go too
+        ::events.clear();
+        press(Qt::Key_Right);
+        QCOMPARE(window->caret(), j);
+        QCOMPARE(::events,
+                 (QStringList{QString("%1:mode").arg(i), QString("%1:focus").arg(j), QString("%1:mode").arg(j)}));
+        QVERIFY(cell(j)->state().focused);
+        QVERIFY(cell(j)->state().selected);
+        QCOMPARE(cell(j)->text(QAccessible::Description), QString("Caret: value entry"));
+        QVERIFY(cell(i)->text(QAccessible::Description).isEmpty());
+    }
+
+    // From a fresh start to an entered value, a toggled pencil mark and a single candidate entered, with keys only.
+    void keyboardOnlySession() {
+        QCOMPARE(QApplication::focusWidget(), child<QWidget>(*window, "boardWidget"));
+        const int first = firstEmpty(*window);
+        press(Qt::Key_Down);
+        QCOMPARE(window->caret(), first);
+        type(solution(first));
+        QCOMPARE(board()->cell(first)->value(), solution(first));
+        press(Qt::Key_V, Qt::AltModifier);  // View menu, then its first entry: Pencil Marks
+        QVERIFY(QApplication::activePopupWidget());
+        press(Qt::Key_Return);
+        QVERIFY(child<QAction>(*window, "actionViewPencilMarks")->isChecked());
+        press(Qt::Key_Down);
+        const int c = window->caret();
+        QVERIFY(c >= 0 && c != first);
+        press(Qt::Key_Space);
+        QCOMPARE(window->tileAt(c)->caret(), Tile::PencilCaret);
+        QCOMPARE(cell(c)->text(QAccessible::Description), QString("Caret: pencil marks"));
+        press(Qt::Key_Tab);  // takes nothing away from the caret
+        QCOMPARE(window->focusWidget(), window->tileAt(c));
+        // Every candidate but the solution toggled off; Return then enters the one left.
+        for (int v = 1; v <= 9; ++v)
+            if (v != solution(c) && board()->cell(c)->isPotential(v)) {
+                type(v);
+                QVERIFY(!board()->cell(c)->isPotential(v));
+            }
+        press(Qt::Key_Escape);
+        QCOMPARE(window->caret(), -1);
+        QCOMPARE(window->focusWidget(), child<QWidget>(*window, "boardWidget"));
+        press(Qt::Key_Left);  // back to the cell it left, with the value caret
+        QCOMPARE(window->caret(), c);
+        QCOMPARE(window->tileAt(c)->caret(), Tile::ValueCaret);
+        QCOMPARE(name(c), cellName(c) + QString("empty, candidates %1").arg(solution(c)));
+        press(Qt::Key_Return);
+        QCOMPARE(board()->cell(c)->value(), solution(c));
+        QCOMPARE(name(c), cellName(c) + QString::number(solution(c)));
+    }
+
+    // Keys where they cannot act change nothing; keys during a refusal's blink or the celebration are not lost.
+    void badInput_data() {
+        QTest::addColumn<int>("level");
+        QTest::addColumn<bool>("pencil");
+        QTest::addColumn<QString>("keys");    // typed before, on a board with the value caret on the first empty cell
+        QTest::addColumn<QString>("during");  // typed while a refused value blinks, or while the board is celebrated
+        QTest::addColumn<int>("caret");       // where the caret ends: -1 none, 0 the first empty cell, 1 the next one
+        QTest::addColumn<int>("mode");
+        QTest::newRow("escape without caret") << int(eng::lvlMedium) << true << "EE"
+                                              << "" << -1 << 0;
+        QTest::newRow("space, pencil marks hidden") << int(eng::lvlMedium) << false << "S"
+                                                    << "" << 0 << 1;
+        QTest::newRow("return, pencil marks hidden") << int(eng::lvlMedium) << false << "R"
+                                                     << "" << 0 << 1;
+        QTest::newRow("return, many candidates") << int(eng::lvlUserEdit) << true << "SR"
+                                                 << "" << 0 << 2;
+        QTest::newRow("no empty cell") << int(eng::lvlCompleted) << true << "DSRLE"
+                                       << "" << -1 << 0;
+        QTest::newRow("during a blink") << int(eng::lvlMedium) << true << "x"
+                                        << "SDE" << -1 << 0;
+        QTest::newRow("during a blink, space") << int(eng::lvlMedium) << true << "x"
+                                               << "S" << 0 << 2;
+        QTest::newRow("during a blink, right") << int(eng::lvlMedium) << true << "x"
+                                               << ">" << 1 << 1;
+        QTest::newRow("during the celebration") << int(eng::lvlVeryEasy) << false << "c"
+                                                << "DSREDL" << -1 << 0;
+    }
+    void badInput() {
+        QFETCH(int, level);
+        QFETCH(bool, pencil);
+        QFETCH(QString, keys);
+        QFETCH(QString, during);
+        QFETCH(int, caret);
+        QFETCH(int, mode);
+        MessageBoxAnswerer answerer;
+        std::srand(7);
+        const char* action[] = {"actionNewGameCompleted", "actionNewGameVeryEasy", "", "actionNewGameMedium", "",
+                                "actionNewGameUserEdit"};
+        trigger(*window, action[level]);
+        pencilMarks(pencil);
+        const int first = firstEmpty(*window);
+        if (keys.contains('c'))  // all but the first empty cell filled
+            for (int i = firstEmpty(*window, first); i >= 0; i = firstEmpty(*window, i))
+                board()->setValue(i, solution(i));
+        const int next = firstEmpty(*window, first);
+        press(Qt::Key_Down);
+        const auto send = [this](const QString& keys) {
+            for (QChar k : keys) {
+                const char* from = "ESRDL>";
+                const Qt::Key key[] = {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Return,
+                                       Qt::Key_Down,   Qt::Key_Left,  Qt::Key_Right};
+                if (const char* at = strchr(from, k.toLatin1())) press(key[at - from]);
+            }
+        };
+        if (!during.isEmpty()) QTimer::singleShot(300, window, [&] { send(during); });
+        if (keys.contains('x')) type(solution(first) % 9 + 1);
+        if (keys.contains('c')) type(solution(first));
+        send(keys);
+        QTRY_VERIFY_WITH_TIMEOUT(!window->isBusy(), 20000);
+        QCoreApplication::processEvents();
+        const int expected = caret < 0 ? -1 : caret == 0 ? first : next;
+        QCOMPARE(window->caret(), expected);
+        if (expected >= 0) QCOMPARE(int(window->tileAt(expected)->caret()), mode);
+        if (keys.contains('c')) QVERIFY(board()->isComplete());
+        if (first >= 0) QCOMPARE(window->tileAt(first)->hasValue(), keys.contains('c'));
+    }
+};
+
+QTEST_MAIN(AccessibilityTest)
+#include "test_accessibility.moc"
