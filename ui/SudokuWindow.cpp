@@ -114,7 +114,9 @@ bool SudokuWindow::pencilMarksShown() const { return ui->actionViewPencilMarks->
 void SudokuWindow::closeEvent(QCloseEvent* event) {
     closing = true;
     if (pencilMarksOptions) pencilMarksOptions->close();
-    QCoreApplication::quit();
+    // exit() ends every running event loop at once, a message box's too, on both Qt 5 and Qt 6 (where quit() only
+    // posts a request that the nested loop would wait on).
+    QCoreApplication::exit(0);
     event->accept();
 }
 

@@ -36,8 +36,11 @@ QT_QPA_PLATFORM=offscreen timeout 5 "$program" 2>/dev/null || status=$?
 (cd "$tmp" && cpack --config "$build/CPackConfig.cmake" -B "$tmp/deb" >/dev/null)
 deb=$(echo "$tmp"/deb/sudoku-vantu_*.deb)
 dpkg-deb --field "$deb" Section | grep -qx games
-# The Qt build the game was made against, then what dpkg-shlibdeps found.
-dpkg-deb --field "$deb" Depends | grep -q '^qtbase-abi-5-15-[0-9]*, .*libqt5widgets5'
+# The Qt build the game was made against, then what dpkg-shlibdeps found; the Wayland platform plugin recommended.
+depends=$(dpkg-deb --field "$deb" Depends) recommends=$(dpkg-deb --field "$deb" Recommends)
+{ grep -Eq '^qtbase-abi-5-15-[0-9]+, .*libqt5widgets5' <<<"$depends" && [[ $recommends == qtwayland5 ]]; } ||
+  { grep -Eq '^qt6-base-abi \(= 6\.[0-9.]+\), .*libqt6widgets6' <<<"$depends" && [[ $recommends == qt6-wayland ]]; } ||
+  fail "the package's Qt dependencies: $depends; recommends: $recommends"
 contents=$(dpkg-deb --contents "$deb")
 for path in usr/bin/sudoku-vantu "usr/share/applications/${desktop##*/}" usr/share/metainfo/ \
             "usr/share/icons/hicolor/256x256/apps/$icon.png"; do
