@@ -12,7 +12,7 @@ packages=(
   clang libclang-rt-14-dev
   poppler-utils
   xvfb openbox xdotool imagemagick x11-utils x11-xserver-utils libxcb1-dev weston
-  stress-ng desktop-file-utils appstream ccache
+  stress-ng desktop-file-utils appstream ccache fonts-droid-fallback
   at-spi2-core dbus-x11 libglib2.0-bin python3-pyatspi
   dpkg-dev file
 )

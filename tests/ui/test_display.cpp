@@ -313,7 +313,7 @@ private slots:
     void translatedTextsFit_data() { addLanguageRows(); }
     void translatedTextsFit() {
         QFETCH(QString, language);
-        if (!QFile::exists(":/i18n/sudoku-vantu_" + language + ".qm")) QSKIP("no catalogue for this language");
+        QVERIFY(QFile::exists(":/i18n/sudoku-vantu_" + language + ".qm"));
         const Translations translations{QLocale(language)};
         QCOMPARE(translations.language(), language);
         QVERIFY(QCoreApplication::translate("QPlatformTheme", "Cancel") != "Cancel");  // the toolkit's own too

@@ -1,0 +1,516 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Sudoku Vantu</source>
+        <translation>О программе Sudoku Vantu</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Version:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Версия:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Credits:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Application Author: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Icons Author: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Application homepage: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Sudoku Vantu developers. All rights reserved.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Авторы:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Автор программы: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Автор значков: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Сайт программы: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Sudoku Vantu developers. Все права защищены.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>PencilMarksOptions</name>
+    <message>
+        <source>Pencil Marks Options</source>
+        <translation>Настройка пометок</translation>
+    </message>
+    <message>
+        <source>Autoresolve pencilmarks using following methods:</source>
+        <translation>Автоматически убирать кандидатов методами:</translation>
+    </message>
+    <message>
+        <source>Available:</source>
+        <translation>Доступные:</translation>
+    </message>
+    <message>
+        <source>Selected:</source>
+        <translation>Выбранные:</translation>
+    </message>
+    <message>
+        <source>00. Singles Row Only</source>
+        <translation>00. Одиночки (строки)</translation>
+    </message>
+    <message>
+        <source>01. Singles Col Only</source>
+        <translation>01. Одиночки (столбцы)</translation>
+    </message>
+    <message>
+        <source>02. Singles Square Only</source>
+        <translation>02. Одиночки (блоки)</translation>
+    </message>
+    <message>
+        <source>03. Singles Row + Col Only</source>
+        <translation>03. Одиночки (стр. и столб.)</translation>
+    </message>
+    <message>
+        <source>04. Singles</source>
+        <translation>04. Одиночки</translation>
+    </message>
+    <message>
+        <source>05. Doubles</source>
+        <translation>05. Открытые пары</translation>
+    </message>
+    <message>
+        <source>06. Triples</source>
+        <translation>06. Открытые тройки</translation>
+    </message>
+    <message>
+        <source>07. Quads</source>
+        <translation>07. Открытые четвёрки</translation>
+    </message>
+    <message>
+        <source>08. Transitive Doubles</source>
+        <translation>08. Цепочки пар</translation>
+    </message>
+    <message>
+        <source>09. Locked by Rows</source>
+        <translation>09. Блокировка в строках</translation>
+    </message>
+    <message>
+        <source>10. Locked by Cols</source>
+        <translation>10. Блокировка в столбцах</translation>
+    </message>
+    <message>
+        <source>11. Locked by Squares</source>
+        <translation>11. Блокировка в блоках</translation>
+    </message>
+    <message>
+        <source>12. Hidden Singles</source>
+        <translation>12. Скрытые одиночки</translation>
+    </message>
+    <message>
+        <source>13. Hidden Doubles</source>
+        <translation>13. Скрытые пары</translation>
+    </message>
+    <message>
+        <source>14. Hidden Triples</source>
+        <translation>14. Скрытые тройки</translation>
+    </message>
+    <message>
+        <source>15. Hidden Quads</source>
+        <translation>15. Скрытые четвёрки</translation>
+    </message>
+</context>
+<context>
+    <name>PrintingInfoClass</name>
+    <message>
+        <source>Printing Info</source>
+        <translation>Параметры печати</translation>
+    </message>
+    <message>
+        <source>What to print?</source>
+        <translation>Что печатать?</translation>
+    </message>
+    <message>
+        <source>Current game</source>
+        <translation>Текущую игру</translation>
+    </message>
+    <message>
+        <source>Generate and print a new game</source>
+        <translation>Новую игру</translation>
+    </message>
+    <message>
+        <source>Generate and print two games on the same page</source>
+        <translation>Две новые игры на странице</translation>
+    </message>
+    <message>
+        <source>Generate and print four games on the same page</source>
+        <translation>Четыре новые игры на странице</translation>
+    </message>
+    <message>
+        <source>How many times to repeat above operation?</source>
+        <translation>Сколько раз повторить?</translation>
+    </message>
+    <message>
+        <source>Repeat count:</source>
+        <translation>Повторов:</translation>
+    </message>
+    <message>
+        <source>Level for generated games:</source>
+        <translation>Уровень новых игр:</translation>
+    </message>
+    <message>
+        <source>Export as PDF instead of printing</source>
+        <translation>Сохранить в PDF вместо печати</translation>
+    </message>
+    <message>
+        <source>Show print preview</source>
+        <translation>Предварительный просмотр</translation>
+    </message>
+    <message>
+        <source>High Resolution (best quality)</source>
+        <translation>Высокое разрешение (лучшее качество)</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>Решённая</translation>
+    </message>
+    <message>
+        <source>Very Easy</source>
+        <translation>Очень легко</translation>
+    </message>
+    <message>
+        <source>Easy</source>
+        <translation>Легко</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Средне</translation>
+    </message>
+    <message>
+        <source>Hard</source>
+        <translation>Сложно</translation>
+    </message>
+</context>
+<context>
+    <name>SudokuWindow</name>
+    <message>
+        <source>difficulty: none</source>
+        <translation>сложность: нет</translation>
+    </message>
+    <message>
+        <source>difficulty: Very Easy</source>
+        <translation>сложность: очень легко</translation>
+    </message>
+    <message>
+        <source>difficulty: Easy</source>
+        <translation>сложность: легко</translation>
+    </message>
+    <message>
+        <source>difficulty: Medium</source>
+        <translation>сложность: средне</translation>
+    </message>
+    <message>
+        <source>difficulty: Hard</source>
+        <translation>сложность: сложно</translation>
+    </message>
+    <message>
+        <source>difficulty: user edit</source>
+        <translation>сложность: своя задача</translation>
+    </message>
+    <message>
+        <source>No more moves can be done.</source>
+        <translation>Ходов больше нет.</translation>
+    </message>
+    <message>
+        <source>Cell %1 has no solution</source>
+        <translation>У клетки %1 нет решения</translation>
+    </message>
+    <message>
+        <source>This is not a valid .sud file</source>
+        <translation>Это не файл .sud</translation>
+    </message>
+    <message>
+        <source>Current game will be lost.
+Continue?</source>
+        <translation>Текущая игра будет потеряна.
+Продолжить?</translation>
+    </message>
+    <message>
+        <source>Failed to generate a valid game.</source>
+        <translation>Не удалось создать игру.</translation>
+    </message>
+    <message>
+        <source>Congratulations!</source>
+        <translation>Поздравляем!</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Открыть файл</translation>
+    </message>
+    <message>
+        <source>Sudoku files (*.sud)</source>
+        <translation>Файлы судоку (*.sud)</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Сохранить файл</translation>
+    </message>
+    <message>
+        <source>Portable document files (*.pdf)</source>
+        <translation>Документы PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Failed to load game</source>
+        <translation>Не удалось загрузить игру</translation>
+    </message>
+    <message>
+        <source>Failed to save game</source>
+        <translation>Не удалось сохранить игру</translation>
+    </message>
+    <message>
+        <source>Print Document</source>
+        <translation>Печать</translation>
+    </message>
+    <message>
+        <source>Failed to print.</source>
+        <translation>Не удалось напечатать.</translation>
+    </message>
+</context>
+<context>
+    <name>SudokuWindowClass</name>
+    <message>
+        <source>Start a new game</source>
+        <translation>Начать новую игру</translation>
+    </message>
+    <message>
+        <source>&amp;Game</source>
+        <translation>&amp;Игра</translation>
+    </message>
+    <message>
+        <source>&amp;New Game</source>
+        <translation>&amp;Новая игра</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>Toolbar Items</source>
+        <translation>Кнопки панели</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Главная панель</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>Решённая</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Completed Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Новая решённая игра&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a new game fully resolved</source>
+        <translation>Создать полностью решённую игру</translation>
+    </message>
+    <message>
+        <source>Very Easy</source>
+        <translation>Очень легко</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Very Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Новая очень лёгкая игра&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a very easy game</source>
+        <translation>Создать очень лёгкую игру</translation>
+    </message>
+    <message>
+        <source>Easy</source>
+        <translation>Легко</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Новая лёгкая игра&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a easy game</source>
+        <translation>Создать лёгкую игру</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Средне</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Medium Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Новая игра средней сложности&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a medium game</source>
+        <translation>Создать игру средней сложности</translation>
+    </message>
+    <message>
+        <source>Hard</source>
+        <translation>Сложно</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Hard Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Новая сложная игра&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a hard game</source>
+        <translation>Создать сложную игру</translation>
+    </message>
+    <message>
+        <source>User Edit</source>
+        <translation>Своя задача</translation>
+    </message>
+    <message>
+        <source>&amp;Open Game...</source>
+        <translation>&amp;Открыть игру...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Open game from disk&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Открыть игру с диска&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Open Existing Game</source>
+        <translation>Открыть сохранённую игру</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>&amp;Save Game...</source>
+        <translation>&amp;Сохранить игру...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Save Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Сохранить игру&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Save current game</source>
+        <translation>Сохранить текущую игру</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Печать...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Show Print Options&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Параметры печати&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Show print option dialog</source>
+        <translation>Открыть параметры печати</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Печать...</translation>
+    </message>
+    <message>
+        <source>&amp;Make Move</source>
+        <translation>Сделать &amp;ход</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Make a move for me&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Сделать ход за меня&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Make Move</source>
+        <translation>Сделать ход</translation>
+    </message>
+    <message>
+        <source>&amp;Retract Move</source>
+        <translation>Отм&amp;енить ход</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Retract Move&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Отменить ход&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Retract Move</source>
+        <translation>Отменить ход</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <source>Exit Application</source>
+        <translation>Выйти из программы</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;О программе</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu Version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku for one, made with care&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu Version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Судоку для одного, сделанное с заботой&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>Pencil Marks</source>
+        <translation>Пометки</translation>
+    </message>
+    <message>
+        <source>Pencil Marks Options...</source>
+        <translation>Настройка пометок...</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Панель инструментов</translation>
+    </message>
+    <message>
+        <source>Statusbar</source>
+        <translation>Строка состояния</translation>
+    </message>
+    <message>
+        <source>New Game Icons</source>
+        <translation>Новые игры</translation>
+    </message>
+    <message>
+        <source>Open &amp;&amp; Save</source>
+        <translation>Открыть &amp;&amp; сохранить</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Печать</translation>
+    </message>
+    <message>
+        <source>Back &amp; Forward</source>
+        <translation>Назад &amp; вперёд</translation>
+    </message>
+</context>
+<context>
+    <name>Tile</name>
+    <message>
+        <source>Form</source>
+        <translation>Форма</translation>
+    </message>
+    <message>
+        <source>%1; %2 refused</source>
+        <extracomment>%1 is a cell&apos;s name or its caret mode, %2 the digit the game refused there</extracomment>
+        <translation>%1; %2 отклонено</translation>
+    </message>
+    <message>
+        <source>Sudoku board</source>
+        <translation>Поле судоку</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3, given</source>
+        <extracomment>%3 is the cell&apos;s digit, a given of the puzzle</extracomment>
+        <translation>Строка %1, столбец %2: %3, подсказка</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3</source>
+        <extracomment>%3 is the digit the player (or Make Move) placed</extracomment>
+        <translation>Строка %1, столбец %2: %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty, candidates %3</source>
+        <extracomment>%3 lists the digits still possible in the cell, such as &quot;2 4 9&quot;</extracomment>
+        <translation>Строка %1, столбец %2: пусто, кандидаты %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty</source>
+        <translation>Строка %1, столбец %2: пусто</translation>
+    </message>
+    <message>
+        <source>Caret: value entry</source>
+        <translation>Курсор: ввод цифры</translation>
+    </message>
+    <message>
+        <source>Caret: pencil marks</source>
+        <translation>Курсор: пометки</translation>
+    </message>
+</context>
+</TS>
