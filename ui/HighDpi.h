@@ -12,8 +12,10 @@
 // longer fit; with the exact factor the fonts keep their 96-dpi size relative
 // to the layout.
 inline void enableHighDpiScaling() {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)  // always on in Qt 6
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 

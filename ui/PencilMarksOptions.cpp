@@ -14,25 +14,27 @@ struct RuleEntry {
 };
 
 const RuleEntry kEntries[] = {
-    {"00. Singles Row Only", eng::ruleSinglesRowOnly, "blue_very_easy.png"},
-    {"01. Singles Col Only", eng::ruleSinglesColOnly, "blue_very_easy.png"},
-    {"02. Singles Square Only", eng::ruleSinglesSquareOnly, "blue_very_easy.png"},
-    {"03. Singles Row + Col Only", eng::ruleSinglesRowColOnly, "blue_very_easy.png"},
-    {"04. Singles", eng::ruleSingles, "blue-easy.png"},
-    {"05. Doubles", eng::ruleDoubles, "blue_normal.png"},
-    {"06. Triples", eng::ruleTriples, "blue_hard.png"},
-    {"07. Quads", eng::ruleQuads, "blue_hard.png"},
-    {"08. Transitive Doubles", eng::ruleTransitiveDoubles, "blue_hard.png"},
-    {"09. Locked by Rows", eng::ruleLockedByRows, "blue_hard.png"},
-    {"10. Locked by Cols", eng::ruleLockedByCols, "blue_hard.png"},
-    {"11. Locked by Squares", eng::ruleLockedBySquares, "blue_hard.png"},
-    {"12. Hidden Singles", eng::ruleHiddenSingles, "blue_hard.png"},
-    {"13. Hidden Doubles", eng::ruleHiddenDoubles, "blue_hard.png"},
-    {"14. Hidden Triples", eng::ruleHiddenTriples, "blue_hard.png"},
-    {"15. Hidden Quads", eng::ruleHiddenQuads, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "00. Singles Row Only"), eng::ruleSinglesRowOnly, "blue_very_easy.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "01. Singles Col Only"), eng::ruleSinglesColOnly, "blue_very_easy.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "02. Singles Square Only"),
+     eng::ruleSinglesSquareOnly, "blue_very_easy.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "03. Singles Row + Col Only"),
+     eng::ruleSinglesRowColOnly, "blue_very_easy.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "04. Singles"), eng::ruleSingles, "blue-easy.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "05. Doubles"), eng::ruleDoubles, "blue_normal.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "06. Triples"), eng::ruleTriples, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "07. Quads"), eng::ruleQuads, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "08. Transitive Doubles"), eng::ruleTransitiveDoubles, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "09. Locked by Rows"), eng::ruleLockedByRows, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "10. Locked by Cols"), eng::ruleLockedByCols, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "11. Locked by Squares"), eng::ruleLockedBySquares, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "12. Hidden Singles"), eng::ruleHiddenSingles, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "13. Hidden Doubles"), eng::ruleHiddenDoubles, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "14. Hidden Triples"), eng::ruleHiddenTriples, "blue_hard.png"},
+    {QT_TRANSLATE_NOOP("PencilMarksOptions", "15. Hidden Quads"), eng::ruleHiddenQuads, "blue_hard.png"},
 };
 
-const char* const kTitle = "Pencil Marks Options";
+const char* const kTitle = QT_TRANSLATE_NOOP("PencilMarksOptions", "Pencil Marks Options");
 
 eng::Rules ruleOf(const QListWidgetItem* item) { return static_cast<eng::Rules>(item->data(Qt::UserRole).toInt()); }
 
@@ -44,7 +46,7 @@ PencilMarksOptions::PencilMarksOptions(QWidget* parent) : QDialog(parent), ui(ne
     const std::list<eng::Rules> initial = initialRules();
     for (const RuleEntry& entry : kEntries) {
         auto* item = new QListWidgetItem(QIcon(QStringLiteral(":/Sudoku/Resources/") + entry.icon),
-                                         QString::fromUtf8(entry.text));
+                                         tr(entry.text));
         item->setData(Qt::UserRole, static_cast<int>(entry.rule));
         const bool selected = std::find(initial.begin(), initial.end(), entry.rule) != initial.end();
         (selected ? ui->lstDest : ui->lstSrc)->addItem(item);

@@ -5,12 +5,14 @@
 
 PrintingInfo::PrintingInfo(QWidget* parent) : QDialog(parent), ui(new Ui::PrintingInfoClass) {
     ui->setupUi(this);
-    const std::pair<const char*, int> levels[] = {{"Completed", eng::lvlCompleted},
-                                                  {"Very Easy", eng::lvlVeryEasy},
-                                                  {"Easy", eng::lvlEasy},
-                                                  {"Medium", eng::lvlMedium},
-                                                  {"Hard", eng::lvlHard}};
-    for (const auto& level : levels) ui->cmbGamesLevel->addItem(QString::fromLatin1(level.first), level.second);
+    const std::pair<const char*, int> levels[] = {
+        {QT_TRANSLATE_NOOP("PrintingInfoClass", "Completed"), eng::lvlCompleted},
+        {QT_TRANSLATE_NOOP("PrintingInfoClass", "Very Easy"), eng::lvlVeryEasy},
+        {QT_TRANSLATE_NOOP("PrintingInfoClass", "Easy"), eng::lvlEasy},
+        {QT_TRANSLATE_NOOP("PrintingInfoClass", "Medium"), eng::lvlMedium},
+        {QT_TRANSLATE_NOOP("PrintingInfoClass", "Hard"), eng::lvlHard}};
+    for (const auto& level : levels)
+        ui->cmbGamesLevel->addItem(QCoreApplication::translate("PrintingInfoClass", level.first), level.second);
     ui->cmbGamesLevel->setCurrentIndex(1);
 }
 

@@ -26,12 +26,12 @@ constexpr int kCelebrationStepMs = 300;
 
 const char* levelLabel(int level) {
     switch (level) {
-    case eng::lvlCompleted: return "difficulty: none";
-    case eng::lvlVeryEasy: return "difficulty: Very Easy";
-    case eng::lvlEasy: return "difficulty: Easy";
-    case eng::lvlMedium: return "difficulty: Medium";
-    case eng::lvlHard: return "difficulty: Hard";
-    default: return "difficulty: user edit";
+    case eng::lvlCompleted: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: none");
+    case eng::lvlVeryEasy: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Very Easy");
+    case eng::lvlEasy: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Easy");
+    case eng::lvlMedium: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Medium");
+    case eng::lvlHard: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Hard");
+    default: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: user edit");
     }
 }
 
@@ -114,7 +114,9 @@ bool SudokuWindow::pencilMarksShown() const { return ui->actionViewPencilMarks->
 void SudokuWindow::closeEvent(QCloseEvent* event) {
     closing = true;
     if (pencilMarksOptions) pencilMarksOptions->close();
-    QCoreApplication::quit();
+    // exit() ends every running event loop at once, a message box's too, on both Qt 5 and Qt 6 (where quit() only
+    // posts a request that the nested loop would wait on).
+    QCoreApplication::exit(0);
     event->accept();
 }
 
@@ -355,7 +357,12 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
     return true;
 }
 
-void SudokuWindow::setLevelLabel(int level) { ui->txtLevel->setText(tr(levelLabel(level))); }
+void SudokuWindow::setLevelLabel(int level) {
+    ui->txtLevel->setText(tr(levelLabel(level)));
+    // A translated label may need more than the form's width; the board leaves room to its right.
+    const int needed = ui->txtLevel->sizeHint().width();
+    if (needed > ui->txtLevel->width()) ui->txtLevel->resize(needed, ui->txtLevel->height());
+}
 
 void SudokuWindow::newGameCommand(int level) {
     if (busy) return;

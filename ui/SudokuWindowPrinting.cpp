@@ -76,11 +76,14 @@ void SudokuWindow::doPainting(QPrinter* printer) {
         const QRectF pageDevice = printer->pageRect(QPrinter::DevicePixel);
         QPainter painter;
         if (!painter.begin(printer)) return false;
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        // Qt 6 dropped the flag, which Qt 5 already ignores outside OpenGL painting.
         QT_WARNING_PUSH
         QT_WARNING_DISABLE_DEPRECATED
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                               QPainter::SmoothPixmapTransform | QPainter::HighQualityAntialiasing);
+        painter.setRenderHint(QPainter::HighQualityAntialiasing);
         QT_WARNING_POP
+#endif
         const int what = printingOptions().whatToPrint();
         const int passes = printingOptions().repeatCount();
         for (int pass = 0; pass < passes; ++pass) {

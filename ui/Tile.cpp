@@ -15,6 +15,8 @@
 
 // The tile's style sheet is stored without Qt's own re-polish (see setTileSheet).
 #include <private/qwidget_p.h>
+#include <utility>
+#include <vector>
 
 const QString Tile::styleTileNormal = QStringLiteral("background-color: white;");
 const QString Tile::styleTileGiven = QStringLiteral("background-color: rgb(245, 245, 245);");
@@ -96,17 +98,22 @@ Tile::~Tile() { delete ui; }
 // hidden ones too: some 3 M instructions a tile, and a new game restyles about
 // 40 tiles. The tile's sheet is stored here without that; the tile and its
 // shown children are then polished once, parents first, as Qt would, and the
-// hidden labels when they are next shown (setShown).
+// hidden labels when they are next shown (setShown). Qt 5 re-polishes when the
+// tile is marked polished, Qt 6 also when any child is: the marks of all of
+// them are cleared for the one call.
 void Tile::setTileSheet(const QString& sheet) {
     if (styleSheet() == sheet) return;
+    const QList<QWidget*> children = findChildren<QWidget*>();
+    std::vector<const QMetaObject*> marks;
+    for (QWidget* w : children) marks.push_back(std::exchange(QWidgetPrivate::get(w)->polished, nullptr));
     QWidgetPrivate* d = QWidgetPrivate::get(this);
-    const QMetaObject* polishedAs = d->polished;
-    d->polished = nullptr;
+    const QMetaObject* polishedAs = std::exchange(d->polished, nullptr);
     setStyleSheet(sheet);
     d->polished = polishedAs;
+    for (int i = 0; i < children.size(); ++i) QWidgetPrivate::get(children[i])->polished = marks[i];
     if (!polishedAs) return;  // the first polish reads the sheet
     polishOnce(this);
-    for (QWidget* child : findChildren<QWidget*>()) {
+    for (QWidget* child : children) {
         if (!child->isHidden())
             polishOnce(child);
         else if (!unpolished.contains(child))

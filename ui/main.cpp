@@ -2,10 +2,12 @@
 
 #include "HighDpi.h"
 #include "SudokuWindow.h"
+#include "Translations.h"
 
 int main(int argc, char** argv) {
     prepareApplication();
     QApplication app(argc, argv);
+    const Translations translations;
     // Lets the desktop match the window to the installed entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));
     SudokuWindow window;

@@ -14,6 +14,14 @@ DESTDIR=$tmp/root cmake --install "$build" --prefix /usr >/dev/null
 desktop=$(echo "$usr"/share/applications/*.desktop)
 desktop-file-validate "$desktop"
 appstreamcli validate-tree --no-net "$usr"  # also checks the launchable desktop entry exists
+# Each language the program speaks: the entry's four texts, the metadata's name, summary and every paragraph and item.
+metainfo=$(echo "$usr"/share/metainfo/*.xml)
+for lang in de fr es it pt_BR ru zh_CN ja; do
+  for key in Name GenericName Comment Keywords; do
+    grep -q "^$key\[$lang\]=." "$desktop" || fail "$key[$lang] missing from the desktop entry"
+  done
+  (($(grep -c "xml:lang=\"$lang\"" "$metainfo") == 7)) || fail "metainfo texts in $lang missing"
+done
 program=$usr/bin/$(sed -n 's/^Exec=//p' "$desktop")  # the program takes no arguments
 test -x "$program" || fail "Exec does not name an installed program: $program"
 icon=$(sed -n 's/^Icon=//p' "$desktop")
@@ -28,8 +36,11 @@ QT_QPA_PLATFORM=offscreen timeout 5 "$program" 2>/dev/null || status=$?
 (cd "$tmp" && cpack --config "$build/CPackConfig.cmake" -B "$tmp/deb" >/dev/null)
 deb=$(echo "$tmp"/deb/sudoku-vantu_*.deb)
 dpkg-deb --field "$deb" Section | grep -qx games
-# The Qt build the game was made against, then what dpkg-shlibdeps found.
-dpkg-deb --field "$deb" Depends | grep -q '^qtbase-abi-5-15-[0-9]*, .*libqt5widgets5'
+# The Qt build the game was made against, then what dpkg-shlibdeps found; the Wayland platform plugin recommended.
+depends=$(dpkg-deb --field "$deb" Depends) recommends=$(dpkg-deb --field "$deb" Recommends)
+{ grep -Eq '^qtbase-abi-5-15-[0-9]+, .*libqt5widgets5' <<<"$depends" && [[ $recommends == qtwayland5 ]]; } ||
+  { grep -Eq '^qt6-base-abi \(= 6\.[0-9.]+\), .*libqt6widgets6' <<<"$depends" && [[ $recommends == qt6-wayland ]]; } ||
+  fail "the package's Qt dependencies: $depends; recommends: $recommends"
 contents=$(dpkg-deb --contents "$deb")
 for path in usr/bin/sudoku-vantu "usr/share/applications/${desktop##*/}" usr/share/metainfo/ \
             "usr/share/icons/hicolor/256x256/apps/$icon.png"; do

@@ -66,3 +66,10 @@ inline void savePicture(const QImage& image, const QString& name) {
     image.save(dir + "/" + name + ".png");
 }
 inline void savePicture(QWidget& widget, const QString& name) { savePicture(widget.grab().toImage(), name); }
+
+// One data row for each language the program is translated into; its column "language" names the catalogue.
+inline void addLanguageRows() {
+    QTest::addColumn<QString>("language");
+    for (const char* language : {"de", "fr", "es", "it", "pt_BR", "ru", "zh_CN", "ja"})
+        QTest::newRow(language) << language;
+}

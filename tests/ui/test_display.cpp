@@ -6,16 +6,20 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStatusBar>
 #include <QStyleOption>
 #include <QTextDocument>
+#include <QToolBar>
 #include <atomic>
 #include <functional>
 #include <thread>
 
 #include "AboutDialog.h"
 #include "HighDpi.h"
+#include "Translations.h"
 #include "WindowTestSupport.h"
 
 namespace {
@@ -137,6 +141,18 @@ void expectTextsFit(QWidget* w, const QString& name) {
     savePicture(screenOf(*w), QString("scale_%1_%2").arg(w->devicePixelRatioF(), 0, 'f', 2).arg(name));
     const QStringList bad = clipped(w);
     QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+}
+
+// Every visible text of the three dialogs fits; their pictures' names start with `prefix`.
+void expectDialogTextsFit(QWidget* parent, const QString& prefix) {
+    PrintingInfo printing;
+    PencilMarksOptions pencilMarks;
+    AboutDialog about("1.0.4", parent);
+    for (QDialog* dialog : std::initializer_list<QDialog*>{&printing, &pencilMarks, &about}) {
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
+        expectTextsFit(dialog, prefix + dialog->objectName());
+    }
 }
 
 }  // namespace
@@ -290,15 +306,41 @@ private slots:
         expectTextsFit(window, "window_" + action);
     }
 
-    void dialogTextsFit() {
-        PrintingInfo printing;
-        PencilMarksOptions pencilMarks;
-        AboutDialog about("1.0.4", window);
-        for (QDialog* dialog : std::initializer_list<QDialog*>{&printing, &pencilMarks, &about}) {
-            dialog->show();
-            QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
-            expectTextsFit(dialog, dialog->objectName());
+    void dialogTextsFit() { expectDialogTextsFit(window, ""); }
+
+    // In every language the program speaks, nothing of the window, its menus, toolbar, status bar and dialogs is
+    // cut, at every level; pictures of each for a person to look at.
+    void translatedTextsFit_data() { addLanguageRows(); }
+    void translatedTextsFit() {
+        QFETCH(QString, language);
+        if (!QFile::exists(":/i18n/sudoku-vantu_" + language + ".qm")) QSKIP("no catalogue for this language");
+        const Translations translations{QLocale(language)};
+        QCOMPARE(translations.language(), language);
+        QVERIFY(QCoreApplication::translate("QPlatformTheme", "Cancel") != "Cancel");  // the toolkit's own too
+        std::unique_ptr<SudokuWindow> w(shownWindow());
+        MessageBoxAnswerer answerer;
+        for (QAction* level : child<QMenu>(*w, "menu_New_Game")->actions()) {
+            if (level->isSeparator()) continue;
+            level->trigger();
+            expectTextsFit(w.get(), language + "_" + level->objectName());
         }
+        auto* bar = child<QMenuBar>(*w, "menuBar");
+        for (QAction* menu : bar->actions()) QVERIFY(bar->rect().contains(bar->actionGeometry(menu)));
+        for (QMenu* menu : w->findChildren<QMenu*>()) {
+            menu->popup(w->mapToGlobal(QPoint(20, 40)));
+            QVERIFY(QTest::qWaitForWindowExposed(menu, 30000));
+            QVERIFY2(menu->width() >= menu->sizeHint().width(), qPrintable(menu->objectName()));
+            savePicture(screenOf(*menu), language + "_" + menu->objectName());
+            menu->hide();
+        }
+        auto* tools = child<QToolBar>(*w, "mainToolBar");
+        for (QAction* a : tools->actions())
+            QVERIFY2(a->isSeparator() || tools->widgetForAction(a)->isVisible(), qPrintable(a->objectName()));
+        const QStatusBar* status = w->statusBar();
+        for (QAction* a : w->findChildren<QAction*>())
+            QVERIFY2(status->fontMetrics().horizontalAdvance(a->statusTip()) < status->contentsRect().width(),
+                     qPrintable(a->statusTip()));
+        expectDialogTextsFit(w.get(), language + "_");
     }
 
     // On a scaled screen toolbar icons and the about picture come from the pictures drawn at twice the size.

@@ -71,7 +71,7 @@ ACTIONS = [
     action('actionOpenGame', '&Open Game...', 'open_game.png', ('open_game.png', 'Open game from disk'), 'Open Existing Game', extra=string('iconText', 'Open')),
     action('actionSaveGame', '&Save Game...', 'save_game.png', ('save_game.png', 'Save Game'), 'Save current game'),
     action('actionPrint', '&Print...', 'printer.png', ('printer.png', 'Show Print Options'), 'Show print option dialog',
-           extra=string('iconText', 'Print...') + string('shortcut', 'Ctrl+P')),
+           extra=string('iconText', 'Print...') + string('shortcut', 'Ctrl+P', notr=True)),
     action('actionMakeMove', '&Make Move', 'make_move.png', ('blue_make_move.png', 'Make a move for me'), 'Make Move'),
     action('actionRetractMove', '&Retract Move', 'retract_move.png', ('blue_retract_move.png', 'Retract Move'), 'Retract Move'),
     action('actionExit', 'E&xit', status='Exit Application'),
@@ -168,7 +168,7 @@ statusbar = '<widget class="QStatusBar" name="statusBar">' + prop('sizeGripEnabl
 window = ('<widget class="QMainWindow" name="SudokuWindowClass">' + rect(0, 0, 609, 709) + policy('Fixed', 'Fixed')
           + size('baseSize', 593, 695) + prop('font', '<font><pointsize>8</pointsize></font>')
           + prop('contextMenuPolicy', '<enum>Qt::NoContextMenu</enum>')
-          + string('windowTitle', 'Sudoku Vantu') + central + menubar + toolbar + statusbar + ''.join(ACTIONS) + '</widget>')
+          + string('windowTitle', 'Sudoku Vantu', notr=True) + central + menubar + toolbar + statusbar + ''.join(ACTIONS) + '</widget>')
 
 CONNECTIONS = [
     ('actionOpenGame', 'triggered()', 'openGame()'), ('actionSaveGame', 'triggered()', 'saveGame()'),

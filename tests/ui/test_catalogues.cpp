@@ -1,0 +1,130 @@
+// Every catalogue under translations/ against the texts lupdate finds in ui/ now: nothing missing, unfinished or
+// obsolete; placeholders, line breaks and "&" marks kept; no two entries of one menu on the same mnemonic.
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+#include "Translations.h"
+#include "WindowTestSupport.h"
+
+namespace {
+
+struct Message {
+    QString translation, type;
+};
+using Catalogue = QMap<QString, Message>;  // "context|source" → translation
+
+Catalogue read(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) qFatal("cannot read %s", qPrintable(path));
+    QXmlStreamReader xml(&file);
+    Catalogue out;
+    QString context, source;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+        if (xml.name() == QLatin1String("name")) context = xml.readElementText();
+        else if (xml.name() == QLatin1String("source")) source = xml.readElementText();
+        else if (xml.name() == QLatin1String("translation")) {
+            Message& m = out[context + '|' + source];
+            m.type = xml.attributes().value("type").toString();
+            m.translation = xml.readElementText();
+        }
+    }
+    if (xml.hasError()) qFatal("%s: %s", qPrintable(path), qPrintable(xml.errorString()));
+    return out;
+}
+
+// The texts of `marks` in `text`, in order: placeholders, line breaks and "&" marks must survive translation.
+QStringList marks(const QString& text) {
+    static const QRegularExpression pattern("%\\d|\\n|&&|&(?!&)");
+    QStringList out;
+    for (auto it = pattern.globalMatch(text); it.hasNext();) out << it.next().captured();
+    out.sort();
+    return out;
+}
+
+QChar mnemonic(const QString& text) {
+    const QRegularExpressionMatch m = QRegularExpression("&([^&])").match(QString(text).remove("&&"));
+    return m.hasMatch() ? m.captured(1).at(0).toLower() : QChar();
+}
+
+void expectUniqueMnemonics(const QString& menu, const QList<QAction*>& actions) {
+    QMap<QChar, QString> seen;
+    for (QAction* a : actions) {
+        const QChar key = mnemonic(a->text());
+        if (key.isNull()) continue;
+        QVERIFY2(!seen.contains(key), qPrintable(menu + ": " + seen[key] + " / " + a->text()));
+        seen[key] = a->text();
+    }
+}
+
+}  // namespace
+
+class CatalogueTest : public QObject {
+    Q_OBJECT
+
+    Catalogue current;  // every text of the sources, as lupdate finds them
+
+private slots:
+    void initTestCase() {
+        QTemporaryDir dir;
+        const QString ts = dir.filePath("sudoku-vantu_xx.ts");
+        QProcess lupdate;
+        lupdate.setWorkingDirectory(SUDOKU_SOURCE_DIR);
+        lupdate.start(SUDOKU_LUPDATE, {"-silent", "-locations", "none", "ui", "-ts", ts});
+        QVERIFY(lupdate.waitForFinished(60000));
+        QCOMPARE(lupdate.exitCode(), 0);
+        current = read(ts);
+        QVERIFY(current.size() > 100);
+    }
+
+    void catalogue_data() { addLanguageRows(); }
+    void catalogue() {
+        QFETCH(QString, language);
+        const QString path = QString(SUDOKU_SOURCE_DIR "/translations/sudoku-vantu_%1.ts").arg(language);
+        if (!QFile::exists(path)) QSKIP("no catalogue for this language");
+        const Catalogue catalogue = read(path);
+        for (auto it = current.cbegin(); it != current.cend(); ++it)
+            QVERIFY2(catalogue.contains(it.key()), qPrintable("missing: " + it.key()));
+        for (auto it = catalogue.cbegin(); it != catalogue.cend(); ++it) {
+            const QString& key = it.key();
+            QVERIFY2(current.contains(key) && it->type != "obsolete" && it->type != "vanished",
+                     qPrintable("obsolete: " + key));
+            QVERIFY2(it->type.isEmpty() && !it->translation.isEmpty(), qPrintable("unfinished: " + key));
+            QVERIFY2(marks(key.section('|', 1)) == marks(it->translation),
+                     qPrintable("placeholder, line break or & lost: " + it->translation));
+        }
+
+        // The compiled catalogue, in the window: each menu's mnemonics differ.
+        const Translations translations{QLocale(language)};
+        QCOMPARE(translations.language(), language);
+        SudokuWindow window;
+        expectUniqueMnemonics("menu bar", window.menuBar()->actions());
+        for (QMenu* menu : window.findChildren<QMenu*>()) expectUniqueMnemonics(menu->title(), menu->actions());
+    }
+
+    // The desktop's languages are taken in order, one without a catalogue skipped (ctest sets LANGUAGE=nl:fr:de).
+    void desktopLanguages() {
+        if (qgetenv("LANGUAGE") != "nl:fr:de") QSKIP("needs LANGUAGE=nl:fr:de, as ctest sets it");
+        QCOMPARE(Translations().language(), QString("fr"));
+    }
+
+    // English, and a language without a catalogue, leave every text as written.
+    void englishStays_data() {
+        QTest::addColumn<QString>("locale");
+        for (const char* locale : {"en_US", "en_GB", "C", "nl_NL", "pt_PT"}) QTest::newRow(locale) << locale;
+    }
+    void englishStays() {
+        QFETCH(QString, locale);
+        const Translations translations{QLocale(locale)};
+        QCOMPARE(translations.language(), QString());
+        SudokuWindow window;
+        QCOMPARE(window.menuBar()->actions().first()->text(), QString("&Game"));
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Cancel"));
+    }
+};
+
+QTEST_MAIN(CatalogueTest)
+#include "test_catalogues.moc"

@@ -1,0 +1,516 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Sudoku Vantu</source>
+        <translation>Acerca de Sudoku Vantu</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Version:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Versión:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Credits:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Application Author: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Icons Author: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Application homepage: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Sudoku Vantu developers. All rights reserved.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Créditos:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Autores del programa: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Autor de los iconos: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Página del programa: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Los desarrolladores de Sudoku Vantu. Todos los derechos reservados.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>PencilMarksOptions</name>
+    <message>
+        <source>Pencil Marks Options</source>
+        <translation>Opciones de anotaciones</translation>
+    </message>
+    <message>
+        <source>Autoresolve pencilmarks using following methods:</source>
+        <translation>Resolver las anotaciones con estos métodos:</translation>
+    </message>
+    <message>
+        <source>Available:</source>
+        <translation>Disponibles:</translation>
+    </message>
+    <message>
+        <source>Selected:</source>
+        <translation>Elegidos:</translation>
+    </message>
+    <message>
+        <source>00. Singles Row Only</source>
+        <translation>00. Únicos, solo filas</translation>
+    </message>
+    <message>
+        <source>01. Singles Col Only</source>
+        <translation>01. Únicos, solo columnas</translation>
+    </message>
+    <message>
+        <source>02. Singles Square Only</source>
+        <translation>02. Únicos, solo cajas</translation>
+    </message>
+    <message>
+        <source>03. Singles Row + Col Only</source>
+        <translation>03. Únicos, solo filas + columnas</translation>
+    </message>
+    <message>
+        <source>04. Singles</source>
+        <translation>04. Únicos</translation>
+    </message>
+    <message>
+        <source>05. Doubles</source>
+        <translation>05. Parejas</translation>
+    </message>
+    <message>
+        <source>06. Triples</source>
+        <translation>06. Tríos</translation>
+    </message>
+    <message>
+        <source>07. Quads</source>
+        <translation>07. Cuartetos</translation>
+    </message>
+    <message>
+        <source>08. Transitive Doubles</source>
+        <translation>08. Parejas transitivas</translation>
+    </message>
+    <message>
+        <source>09. Locked by Rows</source>
+        <translation>09. Bloqueados por filas</translation>
+    </message>
+    <message>
+        <source>10. Locked by Cols</source>
+        <translation>10. Bloqueados por columnas</translation>
+    </message>
+    <message>
+        <source>11. Locked by Squares</source>
+        <translation>11. Bloqueados por cajas</translation>
+    </message>
+    <message>
+        <source>12. Hidden Singles</source>
+        <translation>12. Únicos ocultos</translation>
+    </message>
+    <message>
+        <source>13. Hidden Doubles</source>
+        <translation>13. Parejas ocultas</translation>
+    </message>
+    <message>
+        <source>14. Hidden Triples</source>
+        <translation>14. Tríos ocultos</translation>
+    </message>
+    <message>
+        <source>15. Hidden Quads</source>
+        <translation>15. Cuartetos ocultos</translation>
+    </message>
+</context>
+<context>
+    <name>PrintingInfoClass</name>
+    <message>
+        <source>Printing Info</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>What to print?</source>
+        <translation>¿Qué desea imprimir?</translation>
+    </message>
+    <message>
+        <source>Current game</source>
+        <translation>La partida actual</translation>
+    </message>
+    <message>
+        <source>Generate and print a new game</source>
+        <translation>Crear e imprimir una partida nueva</translation>
+    </message>
+    <message>
+        <source>Generate and print two games on the same page</source>
+        <translation>Crear e imprimir dos partidas por página</translation>
+    </message>
+    <message>
+        <source>Generate and print four games on the same page</source>
+        <translation>Crear e imprimir cuatro partidas por página</translation>
+    </message>
+    <message>
+        <source>How many times to repeat above operation?</source>
+        <translation>¿Cuántas veces repetir la operación?</translation>
+    </message>
+    <message>
+        <source>Repeat count:</source>
+        <translation>Repeticiones:</translation>
+    </message>
+    <message>
+        <source>Level for generated games:</source>
+        <translation>Nivel de las partidas:</translation>
+    </message>
+    <message>
+        <source>Export as PDF instead of printing</source>
+        <translation>Exportar a PDF en vez de imprimir</translation>
+    </message>
+    <message>
+        <source>Show print preview</source>
+        <translation>Mostrar vista previa</translation>
+    </message>
+    <message>
+        <source>High Resolution (best quality)</source>
+        <translation>Alta resolución (mejor calidad)</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>Resuelto</translation>
+    </message>
+    <message>
+        <source>Very Easy</source>
+        <translation>Muy fácil</translation>
+    </message>
+    <message>
+        <source>Easy</source>
+        <translation>Fácil</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medio</translation>
+    </message>
+    <message>
+        <source>Hard</source>
+        <translation>Difícil</translation>
+    </message>
+</context>
+<context>
+    <name>SudokuWindow</name>
+    <message>
+        <source>difficulty: none</source>
+        <translation>dificultad: ninguna</translation>
+    </message>
+    <message>
+        <source>difficulty: Very Easy</source>
+        <translation>dificultad: Muy fácil</translation>
+    </message>
+    <message>
+        <source>difficulty: Easy</source>
+        <translation>dificultad: Fácil</translation>
+    </message>
+    <message>
+        <source>difficulty: Medium</source>
+        <translation>dificultad: Media</translation>
+    </message>
+    <message>
+        <source>difficulty: Hard</source>
+        <translation>dificultad: Difícil</translation>
+    </message>
+    <message>
+        <source>difficulty: user edit</source>
+        <translation>dificultad: propia</translation>
+    </message>
+    <message>
+        <source>No more moves can be done.</source>
+        <translation>No se pueden hacer más movimientos.</translation>
+    </message>
+    <message>
+        <source>Cell %1 has no solution</source>
+        <translation>La casilla %1 no tiene solución</translation>
+    </message>
+    <message>
+        <source>This is not a valid .sud file</source>
+        <translation>No es un archivo .sud válido</translation>
+    </message>
+    <message>
+        <source>Current game will be lost.
+Continue?</source>
+        <translation>Se perderá la partida actual.
+¿Continuar?</translation>
+    </message>
+    <message>
+        <source>Failed to generate a valid game.</source>
+        <translation>No se pudo crear una partida válida.</translation>
+    </message>
+    <message>
+        <source>Congratulations!</source>
+        <translation>¡Enhorabuena!</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Abrir archivo</translation>
+    </message>
+    <message>
+        <source>Sudoku files (*.sud)</source>
+        <translation>Archivos de Sudoku (*.sud)</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Guardar archivo</translation>
+    </message>
+    <message>
+        <source>Portable document files (*.pdf)</source>
+        <translation>Documentos PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Failed to load game</source>
+        <translation>No se pudo cargar la partida</translation>
+    </message>
+    <message>
+        <source>Failed to save game</source>
+        <translation>No se pudo guardar la partida</translation>
+    </message>
+    <message>
+        <source>Print Document</source>
+        <translation>Imprimir documento</translation>
+    </message>
+    <message>
+        <source>Failed to print.</source>
+        <translation>No se pudo imprimir.</translation>
+    </message>
+</context>
+<context>
+    <name>SudokuWindowClass</name>
+    <message>
+        <source>Start a new game</source>
+        <translation>Empezar una partida</translation>
+    </message>
+    <message>
+        <source>&amp;Game</source>
+        <translation>&amp;Juego</translation>
+    </message>
+    <message>
+        <source>&amp;New Game</source>
+        <translation>&amp;Nueva partida</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Toolbar Items</source>
+        <translation>Elementos de la barra</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Barra principal</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>Resuelto</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Completed Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida resuelta&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a new game fully resolved</source>
+        <translation>Crear una partida completamente resuelta</translation>
+    </message>
+    <message>
+        <source>Very Easy</source>
+        <translation>Muy fácil</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Very Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida muy fácil&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a very easy game</source>
+        <translation>Crear una partida muy fácil</translation>
+    </message>
+    <message>
+        <source>Easy</source>
+        <translation>Fácil</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida fácil&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a easy game</source>
+        <translation>Crear una partida fácil</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medio</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Medium Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida media&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a medium game</source>
+        <translation>Crear una partida de dificultad media</translation>
+    </message>
+    <message>
+        <source>Hard</source>
+        <translation>Difícil</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Hard Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nueva partida difícil&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a hard game</source>
+        <translation>Crear una partida difícil</translation>
+    </message>
+    <message>
+        <source>User Edit</source>
+        <translation>Tablero propio</translation>
+    </message>
+    <message>
+        <source>&amp;Open Game...</source>
+        <translation>&amp;Abrir partida...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Open game from disk&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Abrir una partida guardada&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Open Existing Game</source>
+        <translation>Abrir una partida existente</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>&amp;Save Game...</source>
+        <translation>&amp;Guardar partida...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Save Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Guardar partida&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Save current game</source>
+        <translation>Guardar la partida actual</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimir...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Show Print Options&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Opciones de impresión&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Show print option dialog</source>
+        <translation>Mostrar las opciones de impresión</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimir...</translation>
+    </message>
+    <message>
+        <source>&amp;Make Move</source>
+        <translation>Hacer &amp;movimiento</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Make a move for me&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Hacer un movimiento por mí&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Make Move</source>
+        <translation>Hacer movimiento</translation>
+    </message>
+    <message>
+        <source>&amp;Retract Move</source>
+        <translation>&amp;Deshacer movimiento</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Retract Move&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Deshacer movimiento&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Retract Move</source>
+        <translation>Deshacer movimiento</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Exit Application</source>
+        <translation>Salir del programa</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu Version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku for one, made with care&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu versión 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku para uno, hecho con cariño&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Pencil Marks</source>
+        <translation>Anotaciones</translation>
+    </message>
+    <message>
+        <source>Pencil Marks Options...</source>
+        <translation>Opciones de anotaciones...</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Statusbar</source>
+        <translation>Barra de estado</translation>
+    </message>
+    <message>
+        <source>New Game Icons</source>
+        <translation>Iconos de partida nueva</translation>
+    </message>
+    <message>
+        <source>Open &amp;&amp; Save</source>
+        <translation>Abrir &amp;&amp; guardar</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Back &amp; Forward</source>
+        <translation>Atrás &amp; adelante</translation>
+    </message>
+</context>
+<context>
+    <name>Tile</name>
+    <message>
+        <source>Form</source>
+        <translation>Formulario</translation>
+    </message>
+    <message>
+        <source>%1; %2 refused</source>
+        <extracomment>%1 is a cell&apos;s name or its caret mode, %2 the digit the game refused there</extracomment>
+        <translation>%1; %2 rechazado</translation>
+    </message>
+    <message>
+        <source>Sudoku board</source>
+        <translation>Tablero de sudoku</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3, given</source>
+        <extracomment>%3 is the cell&apos;s digit, a given of the puzzle</extracomment>
+        <translation>Fila %1, columna %2: %3, pista</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3</source>
+        <extracomment>%3 is the digit the player (or Make Move) placed</extracomment>
+        <translation>Fila %1, columna %2: %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty, candidates %3</source>
+        <extracomment>%3 lists the digits still possible in the cell, such as &quot;2 4 9&quot;</extracomment>
+        <translation>Fila %1, columna %2: vacía, candidatos %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty</source>
+        <translation>Fila %1, columna %2: vacía</translation>
+    </message>
+    <message>
+        <source>Caret: value entry</source>
+        <translation>Cursor: introducir números</translation>
+    </message>
+    <message>
+        <source>Caret: pencil marks</source>
+        <translation>Cursor: anotaciones</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,516 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Sudoku Vantu</source>
+        <translation>À propos de Sudoku Vantu</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Version:&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Version :&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Credits:&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Application Author: &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Icons Author: &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Application homepage: &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Sudoku Vantu developers. All rights reserved.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Remerciements :&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Auteurs du programme : &lt;span style=&quot; font-weight:600;&quot;&gt;Sudoku Vantu developers&lt;/span&gt; &lt;a href=&quot;mailto:developers@sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;developers@sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;Auteur des icônes : &lt;a href=&quot;https://sudoku-vantu.org/art&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;sudoku-vantu.org/art&lt;/span&gt;&lt;/a&gt; (&lt;span style=&quot; font-weight:600;&quot;&gt;Vantu&lt;/span&gt;)&lt;/p&gt;&lt;p&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-cool-48.png&quot;/&gt;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&amp;nbsp;&lt;img src=&quot;:/Sudoku/Resources/blue-about-rose-48.png&quot;/&gt;&lt;br/&gt;Site du programme : &lt;a href=&quot;https://sudoku-vantu.org&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#0000ff;&quot;&gt;https://sudoku-vantu.org&lt;/span&gt;&lt;/a&gt;&lt;/p&gt;&lt;p&gt;&lt;span style=&quot; color:#8c8c8c;&quot;&gt;© 2026 Les développeurs de Sudoku Vantu. Tous droits réservés.&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>PencilMarksOptions</name>
+    <message>
+        <source>Pencil Marks Options</source>
+        <translation>Options des annotations</translation>
+    </message>
+    <message>
+        <source>Autoresolve pencilmarks using following methods:</source>
+        <translation>Résoudre les annotations avec ces méthodes :</translation>
+    </message>
+    <message>
+        <source>Available:</source>
+        <translation>Disponibles :</translation>
+    </message>
+    <message>
+        <source>Selected:</source>
+        <translation>Choisies :</translation>
+    </message>
+    <message>
+        <source>00. Singles Row Only</source>
+        <translation>00. Singletons, lignes seules</translation>
+    </message>
+    <message>
+        <source>01. Singles Col Only</source>
+        <translation>01. Singletons, colonnes seules</translation>
+    </message>
+    <message>
+        <source>02. Singles Square Only</source>
+        <translation>02. Singletons, blocs seuls</translation>
+    </message>
+    <message>
+        <source>03. Singles Row + Col Only</source>
+        <translation>03. Singletons, lignes + colonnes</translation>
+    </message>
+    <message>
+        <source>04. Singles</source>
+        <translation>04. Singletons</translation>
+    </message>
+    <message>
+        <source>05. Doubles</source>
+        <translation>05. Paires</translation>
+    </message>
+    <message>
+        <source>06. Triples</source>
+        <translation>06. Triplets</translation>
+    </message>
+    <message>
+        <source>07. Quads</source>
+        <translation>07. Quadruplets</translation>
+    </message>
+    <message>
+        <source>08. Transitive Doubles</source>
+        <translation>08. Paires transitives</translation>
+    </message>
+    <message>
+        <source>09. Locked by Rows</source>
+        <translation>09. Verrouillés par lignes</translation>
+    </message>
+    <message>
+        <source>10. Locked by Cols</source>
+        <translation>10. Verrouillés par colonnes</translation>
+    </message>
+    <message>
+        <source>11. Locked by Squares</source>
+        <translation>11. Verrouillés par blocs</translation>
+    </message>
+    <message>
+        <source>12. Hidden Singles</source>
+        <translation>12. Singletons cachés</translation>
+    </message>
+    <message>
+        <source>13. Hidden Doubles</source>
+        <translation>13. Paires cachées</translation>
+    </message>
+    <message>
+        <source>14. Hidden Triples</source>
+        <translation>14. Triplets cachés</translation>
+    </message>
+    <message>
+        <source>15. Hidden Quads</source>
+        <translation>15. Quadruplets cachés</translation>
+    </message>
+</context>
+<context>
+    <name>PrintingInfoClass</name>
+    <message>
+        <source>Printing Info</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>What to print?</source>
+        <translation>Que faut-il imprimer ?</translation>
+    </message>
+    <message>
+        <source>Current game</source>
+        <translation>La partie en cours</translation>
+    </message>
+    <message>
+        <source>Generate and print a new game</source>
+        <translation>Créer et imprimer une nouvelle grille</translation>
+    </message>
+    <message>
+        <source>Generate and print two games on the same page</source>
+        <translation>Créer et imprimer deux grilles par page</translation>
+    </message>
+    <message>
+        <source>Generate and print four games on the same page</source>
+        <translation>Créer et imprimer quatre grilles par page</translation>
+    </message>
+    <message>
+        <source>How many times to repeat above operation?</source>
+        <translation>Combien de fois répéter cette opération ?</translation>
+    </message>
+    <message>
+        <source>Repeat count:</source>
+        <translation>Répétitions :</translation>
+    </message>
+    <message>
+        <source>Level for generated games:</source>
+        <translation>Niveau des grilles créées :</translation>
+    </message>
+    <message>
+        <source>Export as PDF instead of printing</source>
+        <translation>Exporter en PDF au lieu d’imprimer</translation>
+    </message>
+    <message>
+        <source>Show print preview</source>
+        <translation>Afficher l’aperçu</translation>
+    </message>
+    <message>
+        <source>High Resolution (best quality)</source>
+        <translation>Haute résolution (meilleure qualité)</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>Résolue</translation>
+    </message>
+    <message>
+        <source>Very Easy</source>
+        <translation>Très facile</translation>
+    </message>
+    <message>
+        <source>Easy</source>
+        <translation>Facile</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Moyen</translation>
+    </message>
+    <message>
+        <source>Hard</source>
+        <translation>Difficile</translation>
+    </message>
+</context>
+<context>
+    <name>SudokuWindow</name>
+    <message>
+        <source>difficulty: none</source>
+        <translation>niveau : aucun</translation>
+    </message>
+    <message>
+        <source>difficulty: Very Easy</source>
+        <translation>niveau : Très facile</translation>
+    </message>
+    <message>
+        <source>difficulty: Easy</source>
+        <translation>niveau : Facile</translation>
+    </message>
+    <message>
+        <source>difficulty: Medium</source>
+        <translation>niveau : Moyen</translation>
+    </message>
+    <message>
+        <source>difficulty: Hard</source>
+        <translation>niveau : Difficile</translation>
+    </message>
+    <message>
+        <source>difficulty: user edit</source>
+        <translation>niveau : personnel</translation>
+    </message>
+    <message>
+        <source>No more moves can be done.</source>
+        <translation>Plus aucun coup n’est possible.</translation>
+    </message>
+    <message>
+        <source>Cell %1 has no solution</source>
+        <translation>La case %1 n’a pas de solution</translation>
+    </message>
+    <message>
+        <source>This is not a valid .sud file</source>
+        <translation>Ce n’est pas un fichier .sud valide</translation>
+    </message>
+    <message>
+        <source>Current game will be lost.
+Continue?</source>
+        <translation>La partie en cours sera perdue.
+Continuer ?</translation>
+    </message>
+    <message>
+        <source>Failed to generate a valid game.</source>
+        <translation>Impossible de créer une grille valide.</translation>
+    </message>
+    <message>
+        <source>Congratulations!</source>
+        <translation>Félicitations !</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Ouvrir un fichier</translation>
+    </message>
+    <message>
+        <source>Sudoku files (*.sud)</source>
+        <translation>Fichiers Sudoku (*.sud)</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Enregistrer le fichier</translation>
+    </message>
+    <message>
+        <source>Portable document files (*.pdf)</source>
+        <translation>Documents PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Failed to load game</source>
+        <translation>Impossible de charger la partie</translation>
+    </message>
+    <message>
+        <source>Failed to save game</source>
+        <translation>Impossible d’enregistrer la partie</translation>
+    </message>
+    <message>
+        <source>Print Document</source>
+        <translation>Imprimer le document</translation>
+    </message>
+    <message>
+        <source>Failed to print.</source>
+        <translation>L’impression a échoué.</translation>
+    </message>
+</context>
+<context>
+    <name>SudokuWindowClass</name>
+    <message>
+        <source>Start a new game</source>
+        <translation>Nouvelle partie</translation>
+    </message>
+    <message>
+        <source>&amp;Game</source>
+        <translation>&amp;Jeu</translation>
+    </message>
+    <message>
+        <source>&amp;New Game</source>
+        <translation>&amp;Nouvelle partie</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Toolbar Items</source>
+        <translation>Éléments de la barre</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Barre d’outils principale</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>Résolue</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Completed Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_resolved.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille résolue&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a new game fully resolved</source>
+        <translation>Créer une grille entièrement résolue</translation>
+    </message>
+    <message>
+        <source>Very Easy</source>
+        <translation>Très facile</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Very Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_very_easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille très facile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a very easy game</source>
+        <translation>Créer une grille très facile</translation>
+    </message>
+    <message>
+        <source>Easy</source>
+        <translation>Facile</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Easy Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue-easy.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille facile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a easy game</source>
+        <translation>Créer une grille facile</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Moyen</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Medium Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_normal.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille moyenne&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a medium game</source>
+        <translation>Créer une grille moyenne</translation>
+    </message>
+    <message>
+        <source>Hard</source>
+        <translation>Difficile</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;New Hard Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_hard.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Nouvelle grille difficile&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Generate a hard game</source>
+        <translation>Créer une grille difficile</translation>
+    </message>
+    <message>
+        <source>User Edit</source>
+        <translation>Grille personnelle</translation>
+    </message>
+    <message>
+        <source>&amp;Open Game...</source>
+        <translation>&amp;Ouvrir une partie...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Open game from disk&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/open_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Ouvrir une partie enregistrée&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Open Existing Game</source>
+        <translation>Ouvrir une partie existante</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>&amp;Save Game...</source>
+        <translation>Enregi&amp;strer la partie...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Save Game&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/save_game.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Enregistrer la partie&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Save current game</source>
+        <translation>Enregistrer la partie en cours</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimer...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Show Print Options&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/printer.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Options d’impression&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Show print option dialog</source>
+        <translation>Afficher les options d’impression</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimer...</translation>
+    </message>
+    <message>
+        <source>&amp;Make Move</source>
+        <translation>&amp;Jouer un coup</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Make a move for me&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_make_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Jouer un coup pour moi&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Make Move</source>
+        <translation>Jouer un coup</translation>
+    </message>
+    <message>
+        <source>&amp;Retract Move</source>
+        <translation>&amp;Annuler le coup</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Retract Move&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/blue_retract_move.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Annuler le coup&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Retract Move</source>
+        <translation>Annuler le coup</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Exit Application</source>
+        <translation>Quitter le programme</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;À propos</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu Version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku for one, made with care&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align=&quot;center&quot;&gt;&lt;img src=&quot;:/Sudoku/Resources/about.png&quot;/&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Sudoku Vantu version 1.0.0.1&lt;/span&gt;&lt;/p&gt;&lt;p align=&quot;center&quot;&gt;&lt;span style=&quot; font-size:11pt; font-weight:600;&quot;&gt;Le Sudoku en solo, fait avec soin&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Pencil Marks</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>Pencil Marks Options...</source>
+        <translation>Options des annotations...</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barre d’outils</translation>
+    </message>
+    <message>
+        <source>Statusbar</source>
+        <translation>Barre d’état</translation>
+    </message>
+    <message>
+        <source>New Game Icons</source>
+        <translation>Icônes de nouvelle partie</translation>
+    </message>
+    <message>
+        <source>Open &amp;&amp; Save</source>
+        <translation>Ouvrir &amp;&amp; enregistrer</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Back &amp; Forward</source>
+        <translation>Arrière &amp; avant</translation>
+    </message>
+</context>
+<context>
+    <name>Tile</name>
+    <message>
+        <source>Form</source>
+        <translation>Formulaire</translation>
+    </message>
+    <message>
+        <source>%1; %2 refused</source>
+        <extracomment>%1 is a cell&apos;s name or its caret mode, %2 the digit the game refused there</extracomment>
+        <translation>%1 ; %2 refusé</translation>
+    </message>
+    <message>
+        <source>Sudoku board</source>
+        <translation>Grille de Sudoku</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3, given</source>
+        <extracomment>%3 is the cell&apos;s digit, a given of the puzzle</extracomment>
+        <translation>Ligne %1, colonne %2 : %3, donné</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: %3</source>
+        <extracomment>%3 is the digit the player (or Make Move) placed</extracomment>
+        <translation>Ligne %1, colonne %2 : %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty, candidates %3</source>
+        <extracomment>%3 lists the digits still possible in the cell, such as &quot;2 4 9&quot;</extracomment>
+        <translation>Ligne %1, colonne %2 : vide, candidats %3</translation>
+    </message>
+    <message>
+        <source>Row %1, column %2: empty</source>
+        <translation>Ligne %1, colonne %2 : vide</translation>
+    </message>
+    <message>
+        <source>Caret: value entry</source>
+        <translation>Curseur : saisie des chiffres</translation>
+    </message>
+    <message>
+        <source>Caret: pencil marks</source>
+        <translation>Curseur : annotations</translation>
+    </message>
+</context>
+</TS>
