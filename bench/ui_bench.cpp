@@ -7,6 +7,7 @@
 // scripts/with-display.sh for xcb.
 #include <benchmark/benchmark.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QProcess>
@@ -123,18 +124,22 @@ void BM_Click(benchmark::State& state) {
 }
 BENCHMARK(BM_Click)->Iterations(100)->Unit(benchmark::kMillisecond);
 
-// A new game at each level on the window's board: the time from the engine's
-// report of the finished game until the board is shown and the call returns.
+// A new game at each level on the window's board, with pencil marks hidden and
+// shown: the time from the engine's report of the finished game until the board
+// is shown and the call returns.
 void BM_NewGameShown(benchmark::State& state) {
     TimedWindow& w = window();
+    QAction* pencilMarks = w.findChild<QAction*>("actionViewPencilMarks");
+    pencilMarks->setChecked(state.range(1) != 0);
     std::vector<double> millis;
     for (auto _ : state) {
         w.currentBoard()->generate(static_cast<int>(state.range(0)));
         millis.push_back(msSince(w.lastReport));
     }
+    pencilMarks->setChecked(false);
     report(state, millis);
 }
-BENCHMARK(BM_NewGameShown)->DenseRange(0, 4)->Iterations(15)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_NewGameShown)->ArgsProduct({{0, 1, 2, 3, 4}, {0, 1}})->ArgNames({"level", "pencil"})->Iterations(25)->Unit(benchmark::kMillisecond);
 
 // One fresh process per iteration: it prints the milliseconds from its
 // application object to the first painted board.
