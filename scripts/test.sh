@@ -7,6 +7,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh
 jobs=$(nproc)
+# The compiler cache keys paths below the checkout relative to it, so another clone reuses what one has built.
+export CCACHE_BASEDIR=$PWD
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 
