@@ -279,11 +279,13 @@ void SudokuWindow::showMessage(int icon, const QString& text) {
 // ---------------------------------------------------------------------------
 // Game commands
 
-void SudokuWindow::hideCaretIfAny() {
-    if (caretIndex == -1) return;
-    tiles[caretIndex]->hideCaret();
+// Returns the mode the caret had, NoCaret when there was none.
+Tile::CaretMode SudokuWindow::hideCaretIfAny() {
+    if (caretIndex == -1) return Tile::NoCaret;
+    const Tile::CaretMode mode = tiles[caretIndex]->hideCaret();
     lastCaretIndex = caretIndex;
     caretIndex = -1;
+    return mode;
 }
 
 // ---------------------------------------------------------------------------
@@ -482,10 +484,7 @@ void SudokuWindow::tileMoveCaret(int index, Tile::CaretDirection direction) {
         i = next;
     } while (tiles[i]->hasValue());
 
-    if (caretIndex == -1) return;
-    const Tile::CaretMode mode = tiles[caretIndex]->hideCaret();
-    lastCaretIndex = caretIndex;
-    caretIndex = -1;
+    const Tile::CaretMode mode = hideCaretIfAny();
     if (mode == Tile::ValueCaret) {
         caretIndex = i;
         tiles[i]->showValueCaret();

@@ -143,7 +143,7 @@ private:
     void celebrate();
     void enterValue(int index, int value);
     bool beginTileClick(int index);
-    void hideCaretIfAny();
+    Tile::CaretMode hideCaretIfAny();
     void boardKey(int key);
     void caretFromKeyboard();
     void updateTiles(const std::vector<eng::CellInfo*>& cells, bool mark);

@@ -34,6 +34,12 @@ inline int firstEmpty(SudokuWindow& w, int after = -1) {
     return -1;
 }
 
+inline int firstFilled(SudokuWindow& w) {
+    int i = 0;
+    while (!w.tileAt(i)->hasValue()) ++i;
+    return i;
+}
+
 inline std::vector<int> shownValues(SudokuWindow& w) {
     std::vector<int> v;
     for (int i = 0; i < 81; ++i) v.push_back(w.tileAt(i)->value());
@@ -73,3 +79,18 @@ inline void addLanguageRows() {
     for (const char* language : {"de", "fr", "es", "it", "pt_BR", "ru", "zh_CN", "ja"})
         QTest::newRow(language) << language;
 }
+
+// Reading a picture of the screen: a tile's background inside its border (`origin`: where the window's content
+// starts in the picture), and whether a refused value's red, struck-through digit shows in a tile's inside.
+const QRgb kGiven = 0xf5f5f5, kWhite = 0xffffff;
+inline QRgb background(const QImage& shot, SudokuWindow& w, int index, QPoint origin = QPoint()) {
+    return shot.pixel(origin + w.tileAt(index)->mapTo(&w, QPoint(3, 3))) & 0xffffff;
+}
+inline int countPixels(const QImage& image, bool (*test)(QColor)) {
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) n += test(QColor(image.pixel(x, y)));
+    return n;
+}
+inline bool red(QColor p) { return p.red() > 200 && p.green() < 80 && p.blue() < 80; }
+inline char digitShown(const QImage& inside) { return countPixels(inside, red) > 20 ? 'V' : 'h'; }

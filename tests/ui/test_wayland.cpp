@@ -12,8 +12,6 @@
 
 namespace {
 
-const QRgb kGiven = 0xf5f5f5, kWhite = 0xffffff;
-
 // One screenshot of the whole output, taken into a folder of its own (the tool names its file by the second).
 QImage screenshot(const QString& folder) {
     QDir().mkpath(folder);
@@ -41,17 +39,6 @@ QPoint locate(const QImage& shot, SudokuWindow& w) {
     return QPoint(-1, -1);
 }
 
-// 'V' where the struck-through red digit shows in a tile's inside, else 'h'.
-QChar digitShown(const QImage& inside) {
-    int n = 0;
-    for (int y = 0; y < inside.height(); ++y)
-        for (int x = 0; x < inside.width(); ++x) {
-            const QColor p(inside.pixel(x, y));
-            n += p.red() > 200 && p.green() < 80 && p.blue() < 80;
-        }
-    return n > 20 ? 'V' : 'h';
-}
-
 // Calls back with the type of every event that reaches an object.
 struct EventWatcher : QObject {
     std::function<void(QEvent::Type)> seen;
@@ -74,9 +61,6 @@ class WaylandTest : public QObject {
     QPoint origin;
 
     QImage shoot() { return screenshot(shots.path() + "/" + QString::number(taken++)); }
-    QRgb background(const QImage& shot, int index) {
-        return shot.pixel(origin + window->tileAt(index)->mapTo(window, QPoint(3, 3))) & 0xffffff;
-    }
 
 private slots:
     void initTestCase() {
@@ -90,10 +74,8 @@ private slots:
         QImage shot;
         QTRY_VERIFY_WITH_TIMEOUT((origin = locate(shot = shoot(), *window)) != QPoint(-1, -1), 20000);
         savePicture(shot, "wayland_start");
-        int given = 0;
-        while (!window->tileAt(given)->hasValue()) ++given;
-        QCOMPARE(background(shot, given), kGiven);
-        QCOMPARE(background(shot, firstEmpty(*window)), kWhite);
+        QCOMPARE(background(shot, *window, firstFilled(*window), origin), kGiven);
+        QCOMPARE(background(shot, *window, firstEmpty(*window), origin), kWhite);
     }
 
     // A refused value blinks visible, hidden, visible, hidden on screen. The animation paints each step and then
@@ -108,7 +90,7 @@ private slots:
         EventWatcher watcher(child<QLabel>(*window->tileAt(a), "lblValue"), [&](QEvent::Type type) {
             if (type != QEvent::Hide && (type != QEvent::Show || seen.isEmpty())) return;  // from the first hide
             if (seen.size() == 4) return;
-            const QChar expected = seen.size() % 2 ? 'h' : 'V';
+            const char expected = seen.size() % 2 ? 'h' : 'V';
             QDeadlineTimer deadline(20000);  // the compositor may not have taken the last frame yet on a busy machine
             while (digitShown(shoot().copy(area)) != expected)
                 if (deadline.hasExpired()) return void(seen += '?');
