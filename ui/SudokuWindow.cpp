@@ -44,7 +44,12 @@ bool isArrow(int key) {
 SudokuWindow::SudokuWindow(QWidget* parent)
     : QMainWindow(parent), ui(new Ui::SudokuWindowClass) {
     installBoardAccessibility();
-    ui->setupUi(this);
+    {
+        // The first frame shows pictures of the tiles; their forms are built
+        // just after it is painted (see eventFilter).
+        Tile::FormDeferral deferral;
+        ui->setupUi(this);
+    }
     // One walk over the board finds all 81 tiles; the form gives each its index.
     for (Tile* tile : ui->boardWidget->findChildren<Tile*>())
         if (tile->index() >= 0 && tile->index() < 81) tiles[tile->index()] = tile;
@@ -77,6 +82,7 @@ SudokuWindow::SudokuWindow(QWidget* parent)
 
     newGameStep(eng::lvlMedium, true);
     setLevelLabel(eng::lvlMedium);
+    Tile::drawPreviews(tiles, 81);
 }
 
 SudokuWindow::~SudokuWindow() {
@@ -155,6 +161,15 @@ void SudokuWindow::redrawTile(int index) {
 // celebration runs are held back and replayed afterwards, in order, on the
 // tile that has the caret then; without this a fast typist would lose them.
 bool SudokuWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Paint && !afterFirstPaintQueued) {
+        auto* tile = qobject_cast<Tile*>(watched);
+        // A tile drawn on screen, not into a picture of a hidden one.
+        if (tile && tile->isVisible() && tile->window() == this) {
+            afterFirstPaintQueued = true;
+            QTimer::singleShot(0, this, &SudokuWindow::afterFirstPaint);
+        }
+        return false;
+    }
     if (event->type() != QEvent::KeyRelease || event == replayedKey || !mustDefer()) return false;
     auto* widget = qobject_cast<QWidget*>(watched);
     if (!widget || widget->window() != this) return false;
@@ -214,7 +229,7 @@ void SudokuWindow::repaintNow() {
         for (QLayout* layout : ui->boardWidget->findChildren<QLayout*>()) layout->activate();
         return;
     }
-    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    if (isVisible()) QCoreApplication::processEvents(QEventLoop::AllEvents);
 }
 
 void SudokuWindow::noMoreMoves(const std::vector<eng::CellInfo*>& cells) {
@@ -256,12 +271,26 @@ void SudokuWindow::potentialRefused(int index, int value) {
     tiles[index]->flashPotential(value);
 }
 
+// What the first frame could do without: the tiles' forms, and the sound,
+// loaded now so that the first refusal is heard at once.
+void SudokuWindow::afterFirstPaint() {
+    buildTileForms();
+    prepareRefusalSound();
+}
+
+void SudokuWindow::buildTileForms() {
+    for (Tile* tile : tiles) tile->buildForm();
+}
+
+void SudokuWindow::prepareRefusalSound() {
+    if (sound) return;
+    sound = new QSoundEffect(this);
+    sound->setSource(QUrl(QStringLiteral("qrc:/Sudoku/Resources/cuckoo.wav")));
+}
+
 // Fire and forget; without an audio device nothing is heard and nothing fails.
 void SudokuWindow::playRefusalSound() {
-    if (!sound) {
-        sound = new QSoundEffect(this);
-        sound->setSource(QUrl(QStringLiteral("qrc:/Sudoku/Resources/cuckoo.wav")));
-    }
+    prepareRefusalSound();
     sound->play();
 }
 

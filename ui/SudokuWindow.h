@@ -116,6 +116,7 @@ private:
     // meanwhile is ignored.
     bool painting = false;
     QSoundEffect* sound = nullptr;
+    bool afterFirstPaintQueued = false;
     // Keystrokes and rule applications that arrived while the window was busy,
     // carried out in order as soon as it is idle again.
     std::deque<std::function<void()>> deferred;
@@ -148,6 +149,9 @@ private:
     void caretFromKeyboard();
     void updateTiles(const std::vector<eng::CellInfo*>& cells, bool mark);
     void repaintNow();
+    void afterFirstPaint();
+    void buildTileForms();
+    void prepareRefusalSound();
     void showWholeBoard();
     bool pencilMarksShown() const;
     void playRefusalSound();

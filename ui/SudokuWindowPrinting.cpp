@@ -65,6 +65,7 @@ void SudokuWindow::preparePrinter(QPrinter& printer) {
 // its own request for pages, which must not be entered again while it runs.
 void SudokuWindow::doPainting(QPrinter* printer) {
     if (!printer || painting) return;
+    buildTileForms();  // drawn at the printer's resolution, not as pictures
     auto drawPages = [&] {
         BusyScope scope(busy);
         painting = true;

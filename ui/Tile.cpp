@@ -5,7 +5,9 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QHash>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPalette>
 #include <QPointer>
 #include <QStyle>
@@ -73,9 +75,32 @@ void polishOnce(QWidget* widget) {
 
 bool isEnabledHere(const QWidget* widget) { return !widget->testAttribute(Qt::WA_Disabled); }
 
+// What updateFromCell was given while the tile had no form yet.
+class RecordedCell final : public eng::CellInfo {
+public:
+    explicit RecordedCell(const eng::CellInfo& cell) {
+        index_ = cell.index();
+        value_ = cell.value();
+        origin_ = cell.origin();
+        for (int v = 1; v <= 9; ++v)
+            if (cell.isPotential(v)) mask |= 1u << v;
+    }
+    bool isPotential(int v) const override { return v >= 1 && v <= 9 && (mask >> v & 1u); }
+
+private:
+    unsigned mask = 0;
+};
+
 }  // namespace
 
-Tile::Tile(QWidget* parent) : QWidget(parent), ui(new Ui::Tile) {
+int Tile::deferring = 0;
+
+Tile::Tile(QWidget* parent) : QWidget(parent) {
+    if (!deferring) setUpForm();
+}
+
+void Tile::setUpForm() {
+    ui = new Ui::Tile;
     ui->setupUi(this);
     QLabel* labels[9] = {ui->lbl1, ui->lbl2, ui->lbl3, ui->lbl4, ui->lbl5,
                          ui->lbl6, ui->lbl7, ui->lbl8, ui->lbl9};
@@ -84,12 +109,53 @@ Tile::Tile(QWidget* parent) : QWidget(parent), ui(new Ui::Tile) {
     ui->layoutWidget->setPalette(candidatePalette());
     for (int i = 0; i < 9; ++i) potentials[i] = labels[i];
     valueLabel = ui->lblValue;
-    index_ = -1;
-    highlighted = false;
     pencilMarksShown = true;
     showPencilMarks(false);
     valueLabel->hide();
-    caretMode = NoCaret;
+}
+
+// A tile placed on the board before its form keeps its place and size policy;
+// children added to a shown widget wait to be shown.
+void Tile::buildForm() {
+    if (ui) return;
+    const QRect place = geometry();
+    const QSizePolicy policy = sizePolicy();
+    setUpForm();
+    setGeometry(place);
+    setSizePolicy(policy);
+    if (isVisible()) ui->frame->show();
+    preview = QPixmap();
+    if (const std::unique_ptr<eng::CellInfo> cell = std::move(recorded)) updateFromCell(*cell, false);
+}
+
+void Tile::drawPreviews(Tile* const* tiles, int count) {
+    std::unique_ptr<Tile> model;
+    QHash<int, QPixmap> looks;
+    for (int i = 0; i < count; ++i) {
+        Tile* tile = tiles[i];
+        if (tile->ui) continue;
+        if (!tile->recorded) {
+            tile->buildForm();
+            continue;
+        }
+        const eng::CellInfo& cell = *tile->recorded;
+        const int look = cell.value() | (cell.origin() == eng::originGiven ? 16 : 0);
+        auto found = looks.constFind(look);
+        if (found == looks.constEnd()) {
+            if (!model) {
+                // Beside the tiles, so the same style sheets reach it; never shown.
+                model = std::make_unique<Tile>(tile->parentWidget());
+                if (!model->ui) model->setUpForm();
+                model->hide();
+                model->resize(tile->size());
+            }
+            model->updateFromCell(cell, false);
+            // The sheet a shown tile gives its digit.
+            if (cell.value()) setSheet(model->valueLabel, styleValueNormal);
+            found = looks.insert(look, model->grab());
+        }
+        tile->preview = *found;
+    }
 }
 
 Tile::~Tile() { delete ui; }
@@ -133,6 +199,16 @@ void Tile::setIndex(int index) { index_ = index; }
 
 void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
     given = cell.origin() == eng::originGiven;
+    if (!ui) {
+        // Only the first plain update waits for the form; its preview shows it.
+        if (markChanges || !preview.isNull()) {
+            buildForm();
+        } else {
+            recorded = std::make_unique<RecordedCell>(cell);
+            announce();
+            return;
+        }
+    }
     const QString* base = cell.origin() == eng::originGiven ? &styleTileGiven
                           : caretMode == NoCaret                 ? &styleTileNormal
                                                                  : nullptr;
@@ -191,6 +267,7 @@ void Tile::updateFromCell(const eng::CellInfo& cell, bool markChanges) {
 }
 
 void Tile::showPencilMarks(bool show) {
+    buildForm();
     if (pencilMarksShown == show) return;
     pencilMarksShown = show;
     if (valueLabel->text() != QLatin1String("0")) return;
@@ -200,10 +277,12 @@ void Tile::showPencilMarks(bool show) {
 }
 
 void Tile::resetPotentialStyles() {
+    buildForm();
     for (QLabel* label : potentials) setSheet(label, isEnabledHere(label) ? stylePotentialOn : stylePotentialOff);
 }
 
 void Tile::showValueCaret() {
+    buildForm();
     setTileSheet(styleValueCaret);
     caretMode = ValueCaret;
     setFocus(Qt::OtherFocusReason);
@@ -211,6 +290,7 @@ void Tile::showValueCaret() {
 }
 
 void Tile::showPencilCaret() {
+    buildForm();
     setTileSheet(stylePencilCaret);
     caretMode = PencilCaret;
     setFocus(Qt::OtherFocusReason);
@@ -218,6 +298,7 @@ void Tile::showPencilCaret() {
 }
 
 Tile::CaretMode Tile::hideCaret() {
+    buildForm();
     const CaretMode previous = caretMode;
     if (highlighted) {
         // The highlight survives the caret and ends on a white tile.
@@ -231,11 +312,18 @@ Tile::CaretMode Tile::hideCaret() {
     return previous;
 }
 
-bool Tile::hasValue() const { return valueLabel->text() != QLatin1String("0"); }
+bool Tile::hasValue() const {
+    if (!ui) return recorded && recorded->value() != 0;
+    return valueLabel->text() != QLatin1String("0");
+}
 
-int Tile::value() const { return valueLabel->text().toInt(nullptr, 10); }
+int Tile::value() const {
+    if (!ui) return recorded ? recorded->value() : 0;
+    return valueLabel->text().toInt(nullptr, 10);
+}
 
 void Tile::highlightValue(int newValue, int oldValue) {
+    buildForm();
     // Re-applying the highlight to a tile that shows it: updates keep a
     // highlighted tile pink, so there is nothing to undo and redo.
     if (newValue != 0 && newValue == oldValue && highlighted && value() == newValue &&
@@ -274,6 +362,7 @@ bool Tile::pause() {
 // the final state is set. If the tile is destroyed meanwhile, pause() notices
 // and the animation stops without touching it again.
 void Tile::rejectValue() {
+    buildForm();
     if (animating) return;
     animating = true;
     const int digit = value();
@@ -296,6 +385,7 @@ void Tile::rejectValue() {
 // Ends with the candidate shown only if pencil marks are still switched on:
 // the player may have switched them off while it flashed.
 void Tile::flashPotential(int value) {
+    buildForm();
     if (animating || value < 1 || value > 9) return;
     animating = true;
     QLabel* label = potentials[value - 1];
@@ -309,7 +399,18 @@ void Tile::flashPotential(int value) {
     animating = false;
 }
 
+void Tile::paintEvent(QPaintEvent* event) {
+    if (ui || preview.isNull()) {
+        QWidget::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    if (preview.devicePixelRatio() != devicePixelRatioF()) painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(rect(), preview);
+}
+
 void Tile::mouseReleaseEvent(QMouseEvent* event) {
+    buildForm();
     if (animating) return;
     if (event->button() == Qt::LeftButton)
         emit leftClicked(index_);
@@ -318,6 +419,7 @@ void Tile::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void Tile::mouseDoubleClickEvent(QMouseEvent* event) {
+    buildForm();
     if (animating) return;
     if (event->button() == Qt::LeftButton) emit leftDoubleClicked(index_);
     if (!hasValue() && pencilMarksShown) {
@@ -327,6 +429,7 @@ void Tile::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void Tile::keyReleaseEvent(QKeyEvent* event) {
+    buildForm();
     if (caretMode == NoCaret || animating) {
         QWidget::keyReleaseEvent(event);
         return;
@@ -365,6 +468,7 @@ void Tile::showValue(int v) {
 }
 
 bool Tile::enterSingleCandidate() {
+    buildForm();
     if (caretMode == NoCaret || animating || hasValue() || !pencilMarksShown) return false;
     const int k = singleEnabledPotential();
     if (k < 0) return false;
@@ -376,7 +480,7 @@ bool Tile::enterSingleCandidate() {
 int Tile::candidates() const {
     int mask = 0;
     for (int v = 1; v <= 9; ++v)
-        if (isEnabledHere(potentials[v - 1])) mask |= 1 << v;
+        if (ui ? isEnabledHere(potentials[v - 1]) : !recorded || recorded->isPotential(v)) mask |= 1 << v;
     return mask;
 }
 

@@ -4,8 +4,11 @@
 
 #include <QList>
 #include <QMetaType>
+#include <QPixmap>
 #include <QString>
 #include <QWidget>
+
+#include <memory>
 
 #include "Cell.h"
 
@@ -43,6 +46,23 @@ public:
 
     explicit Tile(QWidget* parent = nullptr);
     ~Tile() override;
+
+    // Tiles made while a FormDeferral lives build their form when first
+    // needed (a call below, input, or buildForm). Until then the first
+    // updateFromCell is only recorded, and drawPreviews gives the tile a
+    // picture of what it will show, which it paints instead.
+    class FormDeferral {
+    public:
+        FormDeferral() { ++deferring; }
+        ~FormDeferral() { --deferring; }
+        FormDeferral(const FormDeferral&) = delete;
+        FormDeferral& operator=(const FormDeferral&) = delete;
+    };
+    bool hasForm() const { return ui != nullptr; }
+    void buildForm();
+    // One real tile draws each different look once; tiles with nothing
+    // recorded build their form instead.
+    static void drawPreviews(Tile* const* tiles, int count);
 
     int index() const;
     void setIndex(int index);
@@ -82,18 +102,22 @@ signals:
     void moveCaret(int liniarAddress, Tile::CaretDirection direction);
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
-    Ui::Tile* ui;
-    QLabel* potentials[9];
-    QLabel* valueLabel;
-    int index_;
-    bool pencilMarksShown;
-    CaretMode caretMode;
-    bool highlighted;
+    static int deferring;
+    Ui::Tile* ui = nullptr;
+    QLabel* potentials[9] = {};
+    QLabel* valueLabel = nullptr;
+    std::unique_ptr<eng::CellInfo> recorded;  // the cell to show once the form exists
+    QPixmap preview;
+    int index_ = -1;
+    bool pencilMarksShown = false;
+    CaretMode caretMode = NoCaret;
+    bool highlighted = false;
     QString savedStyleSheet;
     bool animating = false;
     QList<QWidget*> unpolished;  // hidden labels still styled for an earlier tile sheet
@@ -102,6 +126,7 @@ private:
     int refusedContent = 0;   // what the cell held when its value was refused
     int announcedContent = -1;  // what assistive technology was last told
 
+    void setUpForm();
     int content() const;
     void announce();
     void announceCaret();
