@@ -19,6 +19,7 @@
 #include <cstring>
 #include <vector>
 
+#include "FontWarmUp.h"
 #include "HighDpi.h"
 #include "SudokuWindow.h"
 #include "Translations.h"
@@ -169,6 +170,7 @@ public:
 
 // Starts the way the program does, up to the shown window.
 int startUpChild(int argc, char** argv) {
+    const FontWarmUp fonts;
     prepareApplication();
     QElapsedTimer t;
     t.start();

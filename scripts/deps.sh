@@ -3,7 +3,7 @@
 set -euo pipefail
 
 packages=(
-  build-essential cmake pkg-config
+  build-essential cmake pkg-config libfontconfig-dev
   qtbase5-dev qtbase5-private-dev qtmultimedia5-dev libqt5multimedia5-plugins libqt5svg5 qtwayland5
   qttools5-dev qttools5-dev-tools qttranslations5-l10n
   qt6-base-dev qt6-base-private-dev qt6-multimedia-dev qt6-wayland libgl-dev

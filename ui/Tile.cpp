@@ -17,6 +17,7 @@
 
 // The tile's style sheet is stored without Qt's own re-polish (see setTileSheet).
 #include <private/qwidget_p.h>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -128,13 +129,16 @@ void Tile::buildForm() {
     if (const std::unique_ptr<eng::CellInfo> cell = std::move(recorded)) updateFromCell(*cell, false);
 }
 
+// A picture is copied pixel for pixel only where a logical pixel is a whole
+// number of device pixels; at other scales the tiles build their forms now.
 void Tile::drawPreviews(Tile* const* tiles, int count) {
     std::unique_ptr<Tile> model;
     QHash<int, QPixmap> looks;
     for (int i = 0; i < count; ++i) {
         Tile* tile = tiles[i];
         if (tile->ui) continue;
-        if (!tile->recorded) {
+        const qreal ratio = tile->devicePixelRatioF();
+        if (!tile->recorded || ratio != std::floor(ratio)) {
             tile->buildForm();
             continue;
         }

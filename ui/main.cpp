@@ -1,10 +1,12 @@
 #include <QApplication>
 
+#include "FontWarmUp.h"
 #include "HighDpi.h"
 #include "SudokuWindow.h"
 #include "Translations.h"
 
 int main(int argc, char** argv) {
+    const FontWarmUp fonts;
     prepareApplication();
     QApplication app(argc, argv);
     const Translations translations;

@@ -14,6 +14,7 @@
 #include <QTextDocument>
 #include <QToolBar>
 #include <atomic>
+#include <cmath>
 #include <functional>
 #include <thread>
 
@@ -177,6 +178,34 @@ private slots:
         savePicture(screenOf(*window), "display_start");
         QTRY_COMPARE_WITH_TIMEOUT(background(screenOf(*window), *window, firstFilled(*window)), kGiven, 10000);
         QCOMPARE(background(screenOf(*window), *window, firstEmpty(*window)), kWhite);
+    }
+
+    // The first frame shows pictures of the tiles, drawn before their forms exist (at whole-number scales); the
+    // forms built just after it look exactly the same, on screen too.
+    void firstFrameMatchesBuiltTiles() {
+        SudokuWindow fresh;
+        const qreal ratio = fresh.devicePixelRatioF();
+        // At other scales a picture would not be copied pixel for pixel: the forms are there at once.
+        QCOMPARE(fresh.tileAt(0)->hasForm(), ratio != std::floor(ratio));
+        if (fresh.tileAt(0)->hasForm()) return;
+        auto* board = child<QWidget>(fresh, "boardWidget");
+        const QImage first = board->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        fresh.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fresh, 30000));
+        QTRY_VERIFY_WITH_TIMEOUT(fresh.tileAt(0)->hasForm() && fresh.tileAt(80)->hasForm(), 10000);
+        QCOMPARE(board->grab().toImage().convertToFormat(QImage::Format_RGB32), first);
+        // The part of the board on the screen: at 192 dpi the window reaches past its bottom.
+        const QPoint origin = board->mapToGlobal(QPoint(0, 0));
+        const QRect area = (QRect(origin, board->size()) & fresh.screen()->geometry()).translated(-origin);
+        const QRect pixels(area.topLeft() * ratio, area.size() * ratio);
+        const QPoint inWindow = board->mapTo(&fresh, area.topLeft());
+        auto onScreen = [&] {
+            return fresh.screen()
+                ->grabWindow(fresh.winId(), inWindow.x(), inWindow.y(), area.width(), area.height())
+                .toImage()
+                .convertToFormat(QImage::Format_RGB32);
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(onScreen(), first.copy(pixels), 10000);
     }
 
     // Neither the window manager's maximise nor a resize request changes it.
