@@ -12,6 +12,7 @@
 #include <QPrinter>
 #include <QRadioButton>
 #include <QScopeGuard>
+#include <QSoundEffect>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <cstdlib>
@@ -167,6 +168,12 @@ private slots:
     }
 
     void startUpAndDeclinedNewGame() {
+        // Once the first frame is painted the tiles get their forms and the refusal sound is loaded, before any
+        // refusal needs it.
+        QTRY_VERIFY_WITH_TIMEOUT(window->tileAt(0)->hasForm() && window->tileAt(80)->hasForm(), 10000);
+        QSoundEffect* sound = nullptr;
+        QTRY_VERIFY_WITH_TIMEOUT((sound = window->findChild<QSoundEffect*>()), 10000);
+        QCOMPARE(sound->source(), QUrl("qrc:/Sudoku/Resources/cuckoo.wav"));
         const auto before = shownValues(*window);
         QVERIFY(std::count(before.begin(), before.end(), 0) < 64 && std::count(before.begin(), before.end(), 0) > 0);
         for (QAction* a : window->findChildren<QAction*>()) {  // tool-tip pictures come from the resources
