@@ -129,16 +129,30 @@ void Tile::buildForm() {
     if (const std::unique_ptr<eng::CellInfo> cell = std::move(recorded)) updateFromCell(*cell, false);
 }
 
-// A picture is copied pixel for pixel only where a logical pixel is a whole
-// number of device pixels; at other scales the tiles build their forms now.
+namespace {
+
+// Whether a picture of a tile is the tile pixel for pixel at this scale: only
+// where a logical pixel is a whole number of device pixels, and on Qt 6 only
+// unscaled (at twice the size it draws the corner of a lone tile's frame
+// unlike the same frame on the board).
+bool picturesExact(qreal ratio) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return ratio == 1;
+#else
+    return ratio == std::floor(ratio);
+#endif
+}
+
+}  // namespace
+
+// Elsewhere the tiles build their forms now.
 void Tile::drawPreviews(Tile* const* tiles, int count) {
     std::unique_ptr<Tile> model;
     QHash<int, QPixmap> looks;
     for (int i = 0; i < count; ++i) {
         Tile* tile = tiles[i];
         if (tile->ui) continue;
-        const qreal ratio = tile->devicePixelRatioF();
-        if (!tile->recorded || ratio != std::floor(ratio)) {
+        if (!tile->recorded || !picturesExact(tile->devicePixelRatioF())) {
             tile->buildForm();
             continue;
         }
