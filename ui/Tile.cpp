@@ -145,7 +145,7 @@ bool picturesExact(qreal ratio) {
 
 }  // namespace
 
-// Elsewhere the tiles build their forms now.
+// Where a picture would not be exact the tiles build their forms now.
 void Tile::drawPreviews(Tile* const* tiles, int count) {
     std::unique_ptr<Tile> model;
     QHash<int, QPixmap> looks;
