@@ -3,9 +3,9 @@
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QHash>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QHash>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
@@ -76,6 +76,18 @@ void polishOnce(QWidget* widget) {
 
 bool isEnabledHere(const QWidget* widget) { return !widget->testAttribute(Qt::WA_Disabled); }
 
+// Whether a picture of a tile is the tile pixel for pixel at this scale: only
+// where a logical pixel is a whole number of device pixels, and on Qt 6 only
+// unscaled (at twice the size it draws the corner of a lone tile's frame
+// unlike the same frame on the board).
+bool picturesExact(qreal ratio) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return ratio == 1;
+#else
+    return ratio == std::floor(ratio);
+#endif
+}
+
 // What updateFromCell was given while the tile had no form yet.
 class RecordedCell final : public eng::CellInfo {
 public:
@@ -128,22 +140,6 @@ void Tile::buildForm() {
     preview = QPixmap();
     if (const std::unique_ptr<eng::CellInfo> cell = std::move(recorded)) updateFromCell(*cell, false);
 }
-
-namespace {
-
-// Whether a picture of a tile is the tile pixel for pixel at this scale: only
-// where a logical pixel is a whole number of device pixels, and on Qt 6 only
-// unscaled (at twice the size it draws the corner of a lone tile's frame
-// unlike the same frame on the board).
-bool picturesExact(qreal ratio) {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return ratio == 1;
-#else
-    return ratio == std::floor(ratio);
-#endif
-}
-
-}  // namespace
 
 // Where a picture would not be exact the tiles build their forms now.
 void Tile::drawPreviews(Tile* const* tiles, int count) {

@@ -61,7 +61,8 @@ public:
     bool hasForm() const { return ui != nullptr; }
     void buildForm();
     // One real tile draws each different look once; tiles with nothing
-    // recorded build their form instead.
+    // recorded, or at a scale where a picture would not be exact, build their
+    // form instead.
     static void drawPreviews(Tile* const* tiles, int count);
 
     int index() const;

@@ -14,7 +14,6 @@
 #include <QTextDocument>
 #include <QToolBar>
 #include <atomic>
-#include <cmath>
 #include <functional>
 #include <thread>
 
