@@ -12,9 +12,11 @@
 #include <QSoundEffect>
 #include <QThread>
 #include <QTimer>
+#include <future>
 #include <sstream>
 
 #include "AboutDialog.h"
+#include "ActionIcons.h"
 #include "TileAccessible.h"
 #include "ui_SudokuWindow.h"
 
@@ -43,6 +45,15 @@ bool isArrow(int key) {
 
 SudokuWindow::SudokuWindow(QWidget* parent)
     : QMainWindow(parent), ui(new Ui::SudokuWindowClass) {
+    ActionIcons icons;
+    // The first game is generated on a second thread while the form is built.
+    std::future<std::string> firstGame = std::async(std::launch::async, [rules = selectedRules()] {
+        eng::Board generator(nullptr);
+        generator.setPencilMarksRules(rules);
+        std::ostringstream saved;
+        if (generator.generate(eng::lvlMedium)) generator.serialize(saved);
+        return saved.str();
+    });
     installBoardAccessibility();
     {
         // The first frame shows pictures of the tiles; their forms are built
@@ -80,9 +91,10 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     // Like the tiles, it takes no focus by Tab or click: Tab leaves the caret's keys where they are.
     ui->boardWidget->setFocus(Qt::OtherFocusReason);
 
-    newGameStep(eng::lvlMedium, true);
+    startFirstGame(firstGame.get());
     setLevelLabel(eng::lvlMedium);
     Tile::drawPreviews(tiles, 81);
+    icons.apply(this);
 }
 
 SudokuWindow::~SudokuWindow() {
@@ -386,6 +398,20 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
     }
     if (!generated) showMessage(QMessageBox::Warning, tr("Failed to generate a valid game."));
     return true;
+}
+
+// The first game reaches the window's board as a saved game would; a failed
+// generation is tried again here, where it can be reported.
+void SudokuWindow::startFirstGame(const std::string& saved) {
+    if (saved.empty()) {
+        newGameStep(eng::lvlMedium, true);
+        return;
+    }
+    board = new eng::Board(this);
+    board->setPencilMarksRules(selectedRules());
+    std::istringstream in(saved);
+    BusyScope scope(busy);
+    board->deserialize(in);
 }
 
 void SudokuWindow::setLevelLabel(int level) {

@@ -133,9 +133,12 @@ void Tile::buildForm() {
     if (ui) return;
     const QRect place = geometry();
     const QSizePolicy policy = sizePolicy();
+    // The polish skipped while the picture stood is done once the form exists.
+    QWidgetPrivate::get(this)->polished = nullptr;
     setUpForm();
     setGeometry(place);
     setSizePolicy(policy);
+    ensurePolished();
     if (isVisible()) ui->frame->show();
     preview = QPixmap();
     if (const std::unique_ptr<eng::CellInfo> cell = std::move(recorded)) updateFromCell(*cell, false);
@@ -411,6 +414,14 @@ void Tile::flashPotential(int value) {
     setShown(label, pencilMarksShown && !hasValue());
     setSheet(label, styleFlashEnd);
     animating = false;
+}
+
+// A tile showing its picture has nothing the style sheet could change: its
+// polish waits for the form (buildForm), which keeps 81 style-sheet walks out
+// of the first frame.
+bool Tile::event(QEvent* event) {
+    if (!ui && event->type() == QEvent::Polish) return true;
+    return QWidget::event(event);
 }
 
 void Tile::paintEvent(QPaintEvent* event) {

@@ -103,6 +103,7 @@ signals:
     void moveCaret(int liniarAddress, Tile::CaretDirection direction);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

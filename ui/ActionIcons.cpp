@@ -1,0 +1,57 @@
+#include "ActionIcons.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QImageReader>
+#include <QPixmap>
+#include <QWidget>
+
+namespace {
+
+struct ActionPicture {
+    const char* action;
+    const char* picture;
+};
+
+const ActionPicture kPictures[] = {
+    {"actionNewGameCompleted", "blue_resolved"}, {"actionNewGameVeryEasy", "blue_very_easy"},
+    {"actionNewGameEasy", "blue-easy"},          {"actionNewGameMedium", "blue_normal"},
+    {"actionNewGameHard", "blue_hard"},          {"actionNewGameUserEdit", "blue_empty"},
+    {"actionOpenGame", "open_game"},             {"actionSaveGame", "save_game"},
+    {"actionPrint", "printer"},                  {"actionMakeMove", "make_move"},
+    {"actionRetractMove", "retract_move"},       {"actionAbout", "about"},
+};
+
+// Read as QIcon reads a file: the first read also loads the image-format
+// plugins, which the window's own first picture (the style's tool bar
+// extension arrow) would otherwise wait for.
+QImage readPicture(const QString& name) {
+    return QImageReader(QStringLiteral(":/Sudoku/Resources/") + name).read();  // name@2x.png: ratio 2
+}
+
+}  // namespace
+
+ActionIcons::ActionIcons() {
+    // As QIcon does, the pictures drawn at twice the size only where a pixel is larger than a device pixel.
+    const bool twice = qApp->devicePixelRatio() > 1;
+    pictures = std::async(std::launch::async, [twice] {
+        std::vector<QImage> images;
+        for (const ActionPicture& entry : kPictures) {
+            const QString name = QString::fromLatin1(entry.picture);
+            images.push_back(readPicture(name + QStringLiteral(".png")));
+            if (twice) images.push_back(readPicture(name + QStringLiteral("@2x.png")));
+        }
+        return images;
+    });
+}
+
+void ActionIcons::apply(QWidget* window) {
+    const std::vector<QImage> images = pictures.get();
+    const size_t perAction = images.size() / std::size(kPictures);
+    for (size_t i = 0; i < std::size(kPictures); ++i) {
+        QIcon icon;
+        for (size_t k = 0; k < perAction; ++k) icon.addPixmap(QPixmap::fromImage(images[i * perAction + k]));
+        if (auto* action = window->findChild<QAction*>(QLatin1String(kPictures[i].action))) action->setIcon(icon);
+    }
+}
