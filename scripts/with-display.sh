@@ -4,7 +4,8 @@
 #   scripts/with-display.sh [--dpi N] COMMAND [ARGS...]
 # --dpi sets Xft.dpi through xrdb before the command starts (default 96, as a
 # desktop session sets it; Xvfb alone would report 100). The command gets
-# DISPLAY and QT_QPA_PLATFORM=xcb; its exit status is returned.
+# DISPLAY and QT_QPA_PLATFORM=xcb, and a session bus of its own where none is
+# given; its exit status is returned.
 set -euo pipefail
 dpi=96
 if [[ ${1:-} == --dpi ]]; then
@@ -42,6 +43,14 @@ for _ in $(seq 600); do
 done
 xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' ||
   { echo "openbox did not start" >&2; exit 1; }
+
+# As on a desktop, the session bus exists before the program starts. Without
+# one, libdbus forks a launcher from inside the program, and a sanitizer
+# build's child can then hang on an allocator lock another thread held.
+if [[ -z ${DBUS_SESSION_BUS_ADDRESS:-} ]]; then
+  eval "$(dbus-launch --sh-syntax)"
+  pids+=("$DBUS_SESSION_BUS_PID")
+fi
 
 export QT_QPA_PLATFORM=xcb
 set +e

@@ -2,7 +2,8 @@
 # Runs a command as a Wayland client of a private headless weston (1280x1024, pixman renderer, --debug so that
 # weston-screenshooter may take screenshots), torn down afterwards.
 #   scripts/with-weston.sh COMMAND [ARGS...]
-# The command gets XDG_RUNTIME_DIR, WAYLAND_DISPLAY and QT_QPA_PLATFORM=wayland; its exit status is returned.
+# The command gets XDG_RUNTIME_DIR, WAYLAND_DISPLAY and QT_QPA_PLATFORM=wayland, and a session bus of its own where
+# none is given (see with-display.sh); its exit status is returned.
 # Without weston it returns 77 (a skipped test under ctest), saying so.
 set -euo pipefail
 (($#)) || { echo "usage: $0 COMMAND [ARGS...]" >&2; exit 2; }
@@ -15,8 +16,13 @@ export WAYLAND_DISPLAY=wayland-sudoku
 weston --backend=headless-backend.so --use-pixman --debug --socket="$WAYLAND_DISPLAY" --width=1280 --height=1024 \
   --idle-time=0 >"$XDG_RUNTIME_DIR/weston.log" 2>&1 &
 weston=$!
+bus=
+if [[ -z ${DBUS_SESSION_BUS_ADDRESS:-} ]]; then
+  eval "$(dbus-launch --sh-syntax)"
+  bus=$DBUS_SESSION_BUS_PID
+fi
 cleanup() {
-  kill "$weston" 2>/dev/null || true
+  kill "$weston" $bus 2>/dev/null || true
   wait "$weston" 2>/dev/null || true
   rm -rf "$XDG_RUNTIME_DIR"
 }
