@@ -146,18 +146,21 @@ BENCHMARK(BM_NewGameShown)->ArgsProduct({{0, 1, 2, 3, 4}, {0, 1}})->ArgNames({"l
 
 // One fresh process per iteration: it prints the milliseconds from its
 // application object to the first painted board (arg 0), or to the first
-// painted bare main window with one label (arg 1), the toolkit's own floor.
+// painted bare main window with one label (arg 1), the toolkit's own floor,
+// or to that window at the board's size (arg 2), whose first paint fills as
+// many pixels as the board's.
 void BM_StartUp(benchmark::State& state) {
     std::vector<double> millis;
     for (auto _ : state) {
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {state.range(0) ? "--bare-child" : "--startup-child"});
+        const char* const roles[] = {"--startup-child", "--bare-child", "--bare-sized-child"};
+        child.start(QCoreApplication::applicationFilePath(), {roles[state.range(0)]});
         child.waitForFinished(60000);
         millis.push_back(QString::fromLatin1(child.readAllStandardOutput()).trimmed().toDouble());
     }
     report(state, millis);
 }
-BENCHMARK(BM_StartUp)->Arg(0)->Arg(1)->ArgName("bare")->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_StartUp)->DenseRange(0, 2)->ArgName("bare")->Iterations(20)->Unit(benchmark::kMillisecond);
 
 class PaintWatch : public QObject {
 public:
@@ -193,7 +196,7 @@ int startUpChild(int argc, char** argv) {
 }
 
 // A bare main window with one label, set up as the program sets up its own.
-int bareChild(int argc, char** argv) {
+int bareChild(int argc, char** argv, bool boardSized) {
     prepareApplication();
     QElapsedTimer t;
     t.start();
@@ -202,6 +205,7 @@ int bareChild(int argc, char** argv) {
     QMainWindow w;
     auto* label = new QLabel(QStringLiteral("Sudoku Vantu"));
     w.setCentralWidget(label);
+    if (boardSized) w.setFixedSize(609, 709);
     PaintWatch watch;
     label->installEventFilter(&watch);
     w.show();
@@ -218,7 +222,8 @@ int bareChild(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (argc > 1 && std::strcmp(argv[1], "--startup-child") == 0) return startUpChild(argc, argv);
-    if (argc > 1 && std::strcmp(argv[1], "--bare-child") == 0) return bareChild(argc, argv);
+    if (argc > 1 && std::strcmp(argv[1], "--bare-child") == 0) return bareChild(argc, argv, false);
+    if (argc > 1 && std::strcmp(argv[1], "--bare-sized-child") == 0) return bareChild(argc, argv, true);
     prepareApplication();
     QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
