@@ -27,7 +27,8 @@ const ActionPicture kPictures[] = {
 // plugins, which the window's own first picture (the style's tool bar
 // extension arrow) would otherwise wait for.
 QImage readPicture(const QString& name) {
-    return QImageReader(QStringLiteral(":/Sudoku/Resources/") + name).read();  // name@2x.png: ratio 2
+    // A name ending in @2x gives the picture a device pixel ratio of 2.
+    return QImageReader(QStringLiteral(":/Sudoku/Resources/") + name).read();
 }
 
 }  // namespace

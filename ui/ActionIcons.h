@@ -8,8 +8,8 @@ class QWidget;
 
 // The pictures of the window's actions, read on a second thread while the
 // window is built. Qt's first picture read loads every image-format plugin
-// (gif, ico, jpeg, and svg with its library) to ask each whether it reads PNG;
-// with the decoding of twelve pictures that is about 3 ms of the start.
+// (gif, ico, jpeg, and svg with its library) to ask each whether it reads PNG,
+// about 1.3 ms measured on a bare window, before the twelve are decoded.
 // Create it once the application object exists; apply() waits for the pictures.
 class ActionIcons {
 public:

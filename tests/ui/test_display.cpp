@@ -355,8 +355,8 @@ private slots:
         expectDialogTextsFit(w.get(), language + "_");
     }
 
-    // On a scaled screen toolbar icons and the about picture come from the pictures drawn at twice the size.
-    // Every tool bar button has its picture, drawn at twice the size where the screen scales.
+    // Every tool bar button has its picture; on a scaled screen the buttons and the about picture also have the
+    // pictures drawn at twice the size.
     void iconsSharp() {
         const qreal ratio = window->devicePixelRatioF();
         for (QAction* action : window->findChild<QToolBar*>()->actions()) {
