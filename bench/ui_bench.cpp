@@ -21,6 +21,7 @@
 
 #include "FontWarmUp.h"
 #include "HighDpi.h"
+#include "MemoryWarmUp.h"
 #include "SudokuWindow.h"
 #include "Translations.h"
 
@@ -173,10 +174,11 @@ public:
 
 // Starts the way the program does, up to the shown window.
 int startUpChild(int argc, char** argv) {
-    const FontWarmUp fonts;
-    prepareApplication();
     QElapsedTimer t;
     t.start();
+    mapHeapAhead(kStartUpHeap);
+    const FontWarmUp fonts;
+    prepareApplication();
     QApplication app(argc, argv);
     const double appMs = msSince(t);
     const Translations translations;
@@ -185,7 +187,7 @@ int startUpChild(int argc, char** argv) {
     const double windowMs = msSince(t);
     PaintWatch watch;
     w.tileAt(80)->installEventFilter(&watch);
-    w.show();
+    showAtStartUp(w);
     const double shownMs = msSince(t);
     while (!watch.painted) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     std::printf("%.3f\n", msSince(t));
@@ -197,9 +199,9 @@ int startUpChild(int argc, char** argv) {
 
 // A bare main window with one label, set up as the program sets up its own.
 int bareChild(int argc, char** argv, bool boardSized) {
-    prepareApplication();
     QElapsedTimer t;
     t.start();
+    prepareApplication();
     QApplication app(argc, argv);
     const double appMs = msSince(t);
     QMainWindow w;

@@ -2,10 +2,12 @@
 
 #include "FontWarmUp.h"
 #include "HighDpi.h"
+#include "MemoryWarmUp.h"
 #include "SudokuWindow.h"
 #include "Translations.h"
 
 int main(int argc, char** argv) {
+    mapHeapAhead(kStartUpHeap);
     const FontWarmUp fonts;
     prepareApplication();
     QApplication app(argc, argv);
@@ -13,6 +15,6 @@ int main(int argc, char** argv) {
     // Lets the desktop match the window to the installed entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));
     SudokuWindow window;
-    window.show();
+    showAtStartUp(window);
     return app.exec();
 }
