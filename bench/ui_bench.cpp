@@ -2,7 +2,7 @@
 // real widgets: a move, a retraction, a value entry (slot call to return, the
 // repaint included), a click, a new game at each level (from the engine's
 // report of the finished game to the return of the command), and start-up
-// (application object to the first painted board, in a fresh process each time).
+// (main to the first painted board, in a fresh process each time).
 // Run it on the platform to measure: QT_QPA_PLATFORM=offscreen, or under
 // scripts/with-display.sh for xcb.
 #include <benchmark/benchmark.h>
@@ -146,7 +146,7 @@ void BM_NewGameShown(benchmark::State& state) {
 BENCHMARK(BM_NewGameShown)->ArgsProduct({{0, 1, 2, 3, 4}, {0, 1}})->ArgNames({"level", "pencil"})->Iterations(25)->Unit(benchmark::kMillisecond);
 
 // One fresh process per iteration: it prints the milliseconds from its
-// application object to the first painted board (arg 0), or to the first
+// main to the first painted board (arg 0), or to the first
 // painted bare main window with one label (arg 1), the toolkit's own floor,
 // or to that window at the board's size (arg 2), whose first paint fills as
 // many pixels as the board's.

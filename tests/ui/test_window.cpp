@@ -17,7 +17,10 @@
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <set>
+#include <string>
+#include <vector>
 
+#include "MemoryWarmUp.h"
 #include "WindowTestSupport.h"
 
 using Rules = std::list<eng::Rules>;
@@ -165,6 +168,17 @@ private slots:
         QVERIFY(window->currentBoard()->cell(39)->isPotential(4));
         savePicture(*window, "window_pencil_marks");
         QCOMPARE(answerer.texts, QStringList{"Current game will be lost.\nContinue?"});
+    }
+
+    // The heap grown and mapped ahead at start-up keeps what it holds and goes on serving requests, small and large.
+    void heapMappedAhead() {
+        const std::string held(100000, 'x');
+        mapHeapAhead(kStartUpHeap);
+        QCOMPARE(held, std::string(100000, 'x'));
+        std::vector<std::string> more;
+        for (int i = 0; i < 3000; ++i) more.emplace_back(i % 100 == 0 ? 200000 : 1000, 'y');
+        QCOMPARE(more.back(), std::string(1000, 'y'));
+        QCOMPARE(held.front(), 'x');
     }
 
     void startUpAndDeclinedNewGame() {
