@@ -12,8 +12,8 @@ class QWidget;
 // and leaves the contents as they are, so it is safe on memory in use.
 // Elsewhere, or where the kernel lacks it, these do nothing harmful.
 
-// Grows the heap by `bytes` at once and maps those pages: the window is built
-// in them. Call first in main, before any other thread exists.
+// Grows the heap by `bytes` at once and maps those pages: called first in
+// main, the window is built in them.
 void mapHeapAhead(std::size_t bytes);
 // What the program's heap grows to from main to its first painted window,
 // and a little more.
