@@ -19,9 +19,9 @@
 #include <cstring>
 #include <vector>
 
-#include "FontWarmUp.h"
 #include "HighDpi.h"
 #include "MemoryWarmUp.h"
+#include "StartUpWarmUp.h"
 #include "SudokuWindow.h"
 #include "Translations.h"
 
@@ -176,8 +176,7 @@ public:
 int startUpChild(int argc, char** argv) {
     QElapsedTimer t;
     t.start();
-    mapHeapAhead(kStartUpHeap);
-    const FontWarmUp fonts;
+    const StartUpWarmUp warmUp;
     prepareApplication();
     QApplication app(argc, argv);
     const double appMs = msSince(t);

@@ -13,11 +13,8 @@ class QWidget;
 // Elsewhere, or where the kernel lacks it, these do nothing harmful.
 
 // Grows the heap by `bytes` at once and maps those pages: called first in
-// main, the window is built in them.
+// main (StartUpWarmUp), the window is built in them.
 void mapHeapAhead(std::size_t bytes);
-// What the program's heap grows to from main to its first painted window,
-// and a little more.
-constexpr std::size_t kStartUpHeap = 2 * 1024 * 1024;
 
 // Shows the program's first window and maps the backing store its first
 // paint fills: on X11 the store is made at the window's size here instead of

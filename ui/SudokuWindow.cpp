@@ -388,9 +388,7 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
     }
     hideCaretIfAny();
     lastCaretIndex = -1;
-    delete board;
-    board = new eng::Board(this);
-    board->setPencilMarksRules(selectedRules());
+    replaceBoard();
     bool generated = false;
     {
         BusyScope scope(busy);
@@ -407,11 +405,17 @@ void SudokuWindow::startFirstGame(const std::string& saved) {
         newGameStep(eng::lvlMedium, true);
         return;
     }
-    board = new eng::Board(this);
-    board->setPencilMarksRules(selectedRules());
+    replaceBoard();
     std::istringstream in(saved);
     BusyScope scope(busy);
     board->deserialize(in);
+}
+
+// A new board, reporting to this window and resolving pencil marks by the chosen rules.
+void SudokuWindow::replaceBoard() {
+    delete board;
+    board = new eng::Board(this);
+    board->setPencilMarksRules(selectedRules());
 }
 
 void SudokuWindow::setLevelLabel(int level) {

@@ -138,6 +138,7 @@ private:
 
     bool newGameStep(int level, bool skipConfirmation);
     void startFirstGame(const std::string& saved);
+    void replaceBoard();
     void newGameCommand(int level);
     void setHighlight(int value);
     void toggleHighlight(int value);

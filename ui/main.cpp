@@ -1,14 +1,13 @@
 #include <QApplication>
 
-#include "FontWarmUp.h"
 #include "HighDpi.h"
 #include "MemoryWarmUp.h"
+#include "StartUpWarmUp.h"
 #include "SudokuWindow.h"
 #include "Translations.h"
 
 int main(int argc, char** argv) {
-    mapHeapAhead(kStartUpHeap);
-    const FontWarmUp fonts;
+    const StartUpWarmUp warmUp;
     prepareApplication();
     QApplication app(argc, argv);
     const Translations translations;
