@@ -43,16 +43,19 @@ bool isArrow(int key) {
 
 }  // namespace
 
-SudokuWindow::SudokuWindow(QWidget* parent)
-    : QMainWindow(parent), ui(new Ui::SudokuWindowClass) {
+SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
+    : QMainWindow(parent), ui(new Ui::SudokuWindowClass), keptGame(keptGame) {
     ActionIcons icons;
-    // The first game is generated on a second thread while the form is built.
-    std::future<std::string> firstGame = std::async(std::launch::async, [rules = selectedRules()] {
+    // The first game, the kept one or a new one, is read or generated on a second thread while the form is built.
+    std::future<KeptGame::Game> firstGame = std::async(std::launch::async, [rules = selectedRules(), keptGame] {
+        KeptGame::Game first = keptGame ? keptGame->take() : KeptGame::Game();
+        if (first.restored) return first;
         eng::Board generator(nullptr);
         generator.setPencilMarksRules(rules);
         std::ostringstream saved;
         if (generator.generate(eng::lvlMedium)) generator.serialize(saved);
-        return saved.str();
+        first.saved = saved.str();
+        return first;
     });
     installBoardAccessibility();
     {
@@ -91,13 +94,15 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     // Like the tiles, it takes no focus by Tab or click: Tab leaves the caret's keys where they are.
     ui->boardWidget->setFocus(Qt::OtherFocusReason);
 
-    startFirstGame(firstGame.get());
-    setLevelLabel(eng::lvlMedium);
+    const KeptGame::Game first = firstGame.get();
+    startFirstGame(first);
     Tile::drawPreviews(tiles, 81);
     icons.apply(this);
+    if (keptGame) keptGame->attach(this, first);
 }
 
 SudokuWindow::~SudokuWindow() {
+    if (keptGame) keptGame->keepNow();
     qApp->removeEventFilter(this);
     hideCaretIfAny();
     delete board;
@@ -109,7 +114,7 @@ SudokuWindow::~SudokuWindow() {
 // rules are the dialog's initial choice.
 PencilMarksOptions& SudokuWindow::pencilMarksDialog() {
     if (!pencilMarksOptions) {
-        pencilMarksOptions = std::make_unique<PencilMarksOptions>(nullptr);
+        pencilMarksOptions = std::make_unique<PencilMarksOptions>(nullptr, rulesBeforeDialog);
         connect(pencilMarksOptions.get(), &PencilMarksOptions::applyRule, this, &SudokuWindow::applyPencilmarksRule);
         connect(pencilMarksOptions.get(), &PencilMarksOptions::applyRules, this, &SudokuWindow::applyPencilmarksRules);
     }
@@ -117,7 +122,7 @@ PencilMarksOptions& SudokuWindow::pencilMarksDialog() {
 }
 
 std::list<eng::Rules> SudokuWindow::selectedRules() const {
-    return pencilMarksOptions ? pencilMarksOptions->selectedRules() : PencilMarksOptions::initialRules();
+    return pencilMarksOptions ? pencilMarksOptions->selectedRules() : rulesBeforeDialog;
 }
 
 PrintingInfo& SudokuWindow::printingOptions() {
@@ -229,6 +234,7 @@ void SudokuWindow::runDeferred() {
 void SudokuWindow::cellsChanged(const std::vector<eng::CellInfo*>& cells) {
     BusyScope scope(busy);
     updateTiles(cells, markChanges);
+    if (keptGame) keptGame->changed();
     repaintNow();
 }
 
@@ -399,16 +405,23 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
 }
 
 // The first game reaches the window's board as a saved game would; a failed
-// generation is tried again here, where it can be reported.
-void SudokuWindow::startFirstGame(const std::string& saved) {
-    if (saved.empty()) {
+// generation is tried again here, where it can be reported. A kept game brings
+// back its rules, level label and pencil marks too.
+void SudokuWindow::startFirstGame(const KeptGame::Game& first) {
+    if (first.restored) rulesBeforeDialog = first.chosenRules;
+    setLevelLabel(first.level);
+    if (first.saved.empty()) {
         newGameStep(eng::lvlMedium, true);
         return;
     }
     replaceBoard();
-    std::istringstream in(saved);
+    if (first.restored) board->setPencilMarksRules(first.boardRules);
+    std::istringstream in(first.saved);
     BusyScope scope(busy);
     board->deserialize(in);
+    if (!first.pencilMarksShown) return;
+    ui->actionViewPencilMarks->setChecked(true);
+    viewPencilMarks(true);
 }
 
 // A new board, reporting to this window and resolving pencil marks by the chosen rules.
@@ -419,6 +432,7 @@ void SudokuWindow::replaceBoard() {
 }
 
 void SudokuWindow::setLevelLabel(int level) {
+    shownLevel = level;
     ui->txtLevel->setText(tr(levelLabel(level)));
     // A translated label may need more than the form's width; the board leaves room to its right.
     const int needed = ui->txtLevel->sizeHint().width();
@@ -572,6 +586,7 @@ void SudokuWindow::setRules(const std::list<eng::Rules>& rules) {
     markChanges = true;
     board->setPencilMarksRules(rules);
     markChanges = false;
+    if (keptGame) keptGame->changed();
 }
 
 // Lights up the cells of each value in turn, then congratulates.
@@ -623,6 +638,7 @@ void SudokuWindow::viewAboutIcon(bool checked) { ui->actionAbout->setVisible(che
 
 void SudokuWindow::viewPencilMarks(bool checked) {
     for (Tile* tile : tiles) tile->showPencilMarks(checked);
+    if (keptGame) keptGame->changed();
 }
 
 void SudokuWindow::viewPencilMarksOptions() {
@@ -673,6 +689,7 @@ void SudokuWindow::openGame() {
             board = next;
             lastCaretIndex = -1;
             showWholeBoard();
+            if (keptGame) keptGame->changed();
         } else {
             delete next;
         }

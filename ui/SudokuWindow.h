@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "Board.h"
+#include "KeptGame.h"
 #include "PencilMarksOptions.h"
 #include "PrintingInfo.h"
 #include "Tile.h"
@@ -25,7 +26,8 @@ class SudokuWindow : public QMainWindow, public eng::BoardObserver {
     Q_OBJECT
 
 public:
-    explicit SudokuWindow(QWidget* parent = nullptr);
+    // With a keptGame, the window starts with the game it keeps and keeps every change.
+    explicit SudokuWindow(QWidget* parent = nullptr, KeptGame* keptGame = nullptr);
     ~SudokuWindow() override;
 
     // eng::BoardObserver
@@ -50,6 +52,10 @@ public:
     PrintingInfo& printingOptions();
     PencilMarksOptions& pencilMarksDialog();
     QString levelText() const;
+    int labelLevel() const { return shownLevel; }
+    bool pencilMarksShown() const;
+    // The pencil-mark rules new games get.
+    std::list<eng::Rules> selectedRules() const;
     // A4 portrait, full page, no margins: how every print starts.
     static void preparePrinter(QPrinter& printer);
     // Also while input held back meanwhile is still to be carried out.
@@ -124,6 +130,9 @@ private:
     bool replaying = false;
     const QEvent* replayedKey = nullptr;
     FileNameProvider fileNameProvider;
+    KeptGame* keptGame = nullptr;
+    std::list<eng::Rules> rulesBeforeDialog = PencilMarksOptions::initialRules();
+    int shownLevel = eng::lvlMedium;
 
     class BusyScope {
     public:
@@ -137,7 +146,7 @@ private:
     };
 
     bool newGameStep(int level, bool skipConfirmation);
-    void startFirstGame(const std::string& saved);
+    void startFirstGame(const KeptGame::Game& first);
     void replaceBoard();
     void newGameCommand(int level);
     void setHighlight(int value);
@@ -155,7 +164,6 @@ private:
     void buildTileForms();
     void prepareRefusalSound();
     void showWholeBoard();
-    bool pencilMarksShown() const;
     void playRefusalSound();
     void showMessage(int icon, const QString& text);
     QString askFileName(FileRequest request);
@@ -167,7 +175,6 @@ private:
     void reapplyHighlight();
     void redrawTile(int index);
     void setRules(const std::list<eng::Rules>& rules);
-    std::list<eng::Rules> selectedRules() const;
 
     void printOnePerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter, QPrinter* printer);
     void printTwoPerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter);
