@@ -89,7 +89,10 @@ QString KeptGame::defaultPath() {
 QByteArray KeptGame::encode(eng::Board& board, const Game& extras) {
     std::ostringstream sud(std::ios::binary);
     board.serialize(sud);
-    const std::string saved = sud.str();
+    return encode(sud.str(), extras);
+}
+
+QByteArray KeptGame::encode(const std::string& saved, const Game& extras) {
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     out.setByteOrder(QDataStream::LittleEndian);
@@ -181,19 +184,22 @@ void KeptGame::keepNow() {
     timer.stop();
     eng::Board* board = window ? window->currentBoard() : nullptr;
     if (!board) return;
-    Game extras;
-    extras.level = window->labelLevel();
-    extras.pencilMarksShown = window->pencilMarksShown();
-    extras.boardRules = board->pencilMarksRulesList();
-    extras.chosenRules = window->selectedRules();
-    submit(encode(*board, extras));
+    Game game;
+    std::ostringstream saved(std::ios::binary);
+    board->serialize(saved);
+    game.saved = saved.str();
+    game.level = window->labelLevel();
+    game.pencilMarksShown = window->pencilMarksShown();
+    game.boardRules = board->pencilMarksRulesList();
+    game.chosenRules = window->selectedRules();
+    submit(std::move(game));
     sinceWrite.start();
 }
 
 // Only the newest state waits: one not yet written is replaced.
-void KeptGame::submit(QByteArray bytes) {
+void KeptGame::submit(Game game) {
     std::lock_guard<std::mutex> lock(mutex);
-    pending = std::make_unique<QByteArray>(std::move(bytes));
+    pending = std::make_unique<Game>(std::move(game));
     if (!writer.joinable()) writer = std::thread(&KeptGame::writeLoop, this);
     wake.notify_one();
 }
@@ -203,10 +209,10 @@ void KeptGame::writeLoop() {
     for (;;) {
         wake.wait(lock, [this] { return stopping || pending; });
         if (!pending) return;
-        const std::unique_ptr<QByteArray> bytes = std::move(pending);
+        const std::unique_ptr<Game> game = std::move(pending);
         writing = true;
         lock.unlock();
-        const bool ok = writeFile(filePath, *bytes);
+        const bool ok = writeFile(filePath, encode(game->saved, *game));
         QMetaObject::invokeMethod(this, [this, ok] { reportWrite(ok); }, Qt::QueuedConnection);
         lock.lock();
         writing = false;

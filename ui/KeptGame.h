@@ -50,6 +50,7 @@ public:
     // The file's bytes for a board and its extras (game.saved is not used), and back:
     // decode returns false for anything but a complete, undamaged kept game.
     static QByteArray encode(eng::Board& board, const Game& extras);
+    static QByteArray encode(const std::string& saved, const Game& extras);
     static bool decode(const QByteArray& bytes, Game& game);
 
     // At start-up, on any thread: the kept game when it is unfinished (restored
@@ -80,12 +81,12 @@ private:
     std::thread writer;
     std::mutex mutex;
     std::condition_variable wake, idle;
-    std::unique_ptr<QByteArray> pending;
+    std::unique_ptr<Game> pending;  // saved and extras, encoded by the writer
     bool writing = false;
     bool stopping = false;
 
     void writeWhenIdle();
-    void submit(QByteArray bytes);
+    void submit(Game game);
     void writeLoop();
     void reportWrite(bool ok);
 };

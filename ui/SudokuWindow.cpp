@@ -289,10 +289,11 @@ void SudokuWindow::potentialRefused(int index, int value) {
     tiles[index]->flashPotential(value);
 }
 
-// What the first frame could do without: the tiles' forms, and the sound,
-// loaded now so that the first refusal is heard at once.
+// What the first frame could do without: the tiles' forms, the pencil marks of
+// a kept game, and the sound, loaded now so that the first refusal is heard at once.
 void SudokuWindow::afterFirstPaint() {
     buildTileForms();
+    for (Tile* tile : tiles) tile->showPencilMarks(pencilMarksShown());
     prepareRefusalSound();
 }
 
@@ -419,9 +420,7 @@ void SudokuWindow::startFirstGame(const KeptGame::Game& first) {
     std::istringstream in(first.saved);
     BusyScope scope(busy);
     board->deserialize(in);
-    if (!first.pencilMarksShown) return;
-    ui->actionViewPencilMarks->setChecked(true);
-    viewPencilMarks(true);
+    ui->actionViewPencilMarks->setChecked(first.pencilMarksShown);  // the tiles show them after the first frame
 }
 
 // A new board, reporting to this window and resolving pencil marks by the chosen rules.
