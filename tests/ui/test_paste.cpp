@@ -1,7 +1,10 @@
 // Game → Copy Puzzle and Paste Puzzle: the clipboard round trip, the question before the game is replaced, the
 // refusals that leave the board alone, and a pasted game that plays (and is labelled) like a generated one.
 #include <QClipboard>
+#include <QLabel>
+#include <QScreen>
 
+#include "Translations.h"
 #include "WindowTestSupport.h"
 
 namespace {
@@ -85,6 +88,21 @@ private slots:
         QCOMPARE(copied, QString::number(right) + kExpert.mid(1));
         QCOMPARE(paste(*window, copied, QMessageBox::Yes).size(), 1);
         QCOMPARE(window->currentBoard()->cell(0)->origin(), int(eng::originGiven));
+    }
+
+    // The label's new text is whole in every language, with a picture of the window (run on xcb to see the screen).
+    void expertLabelFits_data() { addLanguageRows(); }
+    void expertLabelFits() {
+        QFETCH(QString, language);
+        const Translations translations{QLocale(language)};
+        std::unique_ptr<SudokuWindow> window(shownWindow());
+        QCOMPARE(paste(*window, kExpert, QMessageBox::Yes).size(), 1);
+        auto* label = child<QLabel>(*window, "txtLevel");
+        QCOMPARE(label->text(), QCoreApplication::translate("SudokuWindow", "difficulty: Expert"));
+        QVERIFY(label->width() >= label->sizeHint().width());
+        QVERIFY(window->rect().contains(QRect(label->mapTo(window.get(), QPoint()), label->size())));
+        window->repaint();
+        savePicture(window->screen()->grabWindow(window->winId()).toImage(), "paste_expert_" + language);
     }
 };
 
