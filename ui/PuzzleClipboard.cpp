@@ -30,8 +30,12 @@ PuzzleClipboard::PuzzleClipboard(QWidget* window, StartGame start)
 
 bool PuzzleClipboard::paste(bool askFirst) {
     const QString title = QStringLiteral("Sudoku Vantu");
+    // Web pages put no-break and other spaces between cells: all count as blanks.
+    QString text = QGuiApplication::clipboard()->text();
+    for (QChar& c : text)
+        if (c.isSpace()) c = ' ';
     eng::Grid givens{}, solution{};
-    const eng::PuzzleCheck check = eng::checkPuzzle(QGuiApplication::clipboard()->text().toStdString(), givens, solution);
+    const eng::PuzzleCheck check = eng::checkPuzzle(text.toStdString(), givens, solution);
     if (check != eng::PuzzleCheck::unique) {
         QMessageBox::warning(window, title, tr(refusal(check)));
         return false;

@@ -64,7 +64,8 @@ private slots:
         const QString medium = QGuiApplication::clipboard()->text();
         QCOMPARE(paste(*window, medium).size(), 1);
         QCOMPARE(window->levelText(), QString("difficulty: Medium"));
-        QCOMPARE(paste(*window, kExpert), QStringList{"Current game will be lost.\nContinue?"});
+        const QString fromWeb = kExpert.left(9) + QChar(0xa0) + kExpert.mid(9);  // a no-break space
+        QCOMPARE(paste(*window, fromWeb), QStringList{"Current game will be lost.\nContinue?"});
         QCOMPARE(window->labelLevel(), eng::gradeExpert);
         QCOMPARE(window->levelText(), QString("difficulty: Expert"));
         const eng::Board* game = window->currentBoard();
