@@ -107,6 +107,7 @@ SudokuWindow::SudokuWindow(QWidget* parent)
         BusyScope scope(busy);
         puzzleClipboard->paste(board != nullptr);
     });
+
     startFirstGame(firstGame.get());
     setLevelLabel(eng::lvlMedium);
     Tile::drawPreviews(tiles, 81);
