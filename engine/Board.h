@@ -30,12 +30,12 @@ enum Level : int {
     lvlUserEdit = 5,
 };
 
-// Phases of a board: generation fills a solution, then reveals givens; a game
-// is played in the last phase, the only one that reports cells.
 // A grade beyond the levels: puzzles that even the Hard preset cannot solve.
 // A board holds such a game at lvlHard.
 constexpr int gradeExpert = 6;
 
+// Phases of a board: generation fills a solution, then reveals givens; a game
+// is played in the last phase, the only one that reports cells.
 enum Phase : int {
     phaseNone = 0,
     phaseFilling = 1,
