@@ -19,7 +19,6 @@ namespace {
 
 const char kTag[4] = {'K', 'E', 'P', 'T'};
 constexpr qint32 kVersion = 1;
-constexpr int kLastLabel = 6;   // the level label's levels: the engine's, then "Expert"
 constexpr int kMaxRules = 64;
 constexpr int kHashSize = 16;   // MD5
 constexpr qint64 kMaxFileSize = 64 << 20;
@@ -124,7 +123,7 @@ bool KeptGame::decode(const QByteArray& bytes, Game& game) {
     quint8 pencilMarks = 0;
     if (in.readRawData(tag, sizeof tag) != sizeof tag || std::memcmp(tag, kTag, sizeof tag) != 0) return false;
     in >> version >> pencilMarks >> level;
-    if (version != kVersion || level < 0 || level > kLastLabel || pencilMarks > 1) return false;
+    if (version != kVersion || level < 0 || level > eng::gradeExpert || pencilMarks > 1) return false;
     if (!readRules(in, game.boardRules) || !readRules(in, game.chosenRules) || !in.atEnd()) return false;
     game.saved.assign(bytes.constData(), static_cast<size_t>(savedSize));
     game.level = level;

@@ -14,6 +14,7 @@
 #include "PrintingInfo.h"
 #include "Tile.h"
 
+class PuzzleClipboard;
 class QPainter;
 class QPrinter;
 class QSoundEffect;
@@ -52,6 +53,8 @@ public:
     PrintingInfo& printingOptions();
     PencilMarksOptions& pencilMarksDialog();
     QString levelText() const;
+    // The level label's state: a level 0-5, or eng::gradeExpert.
+    void setLevelLabel(int level);
     int labelLevel() const { return shownLevel; }
     bool pencilMarksShown() const;
     // The pencil-mark rules new games get.
@@ -130,6 +133,7 @@ private:
     bool replaying = false;
     const QEvent* replayedKey = nullptr;
     FileNameProvider fileNameProvider;
+    PuzzleClipboard* puzzleClipboard = nullptr;
     KeptGame* keptGame = nullptr;
     std::list<eng::Rules> rulesBeforeDialog = PencilMarksOptions::initialRules();
     int shownLevel = eng::lvlMedium;
@@ -167,7 +171,6 @@ private:
     void playRefusalSound();
     void showMessage(int icon, const QString& text);
     QString askFileName(FileRequest request);
-    void setLevelLabel(int level);
     void defer(std::function<void()> command);
     bool mustDefer() const { return busy > 0 || (!deferred.empty() && !replaying); }
     void runDeferred();
