@@ -128,7 +128,7 @@ SudokuWindow::~SudokuWindow() {
 }
 
 // The option dialogs are built when first needed; until then the pencil-mark
-// rules are the dialog's initial choice.
+// rules are those the dialog starts with: its initial choice, or a kept game's.
 PencilMarksOptions& SudokuWindow::pencilMarksDialog() {
     if (!pencilMarksOptions) {
         pencilMarksOptions = std::make_unique<PencilMarksOptions>(nullptr, rulesBeforeDialog);
