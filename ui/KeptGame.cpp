@@ -66,6 +66,7 @@ bool writeFile(const QString& path, const QByteArray& bytes) {
 
 KeptGame::KeptGame(const QString& path) : filePath(path) {
     timer.setSingleShot(true);
+    timer.setTimerType(Qt::PreciseTimer);  // a coarse one may fire 5 % early
     connect(&timer, &QTimer::timeout, this, &KeptGame::writeWhenIdle);
 }
 

@@ -118,7 +118,7 @@ private slots:
             w.makeMove();
             QTRY_COMPARE_WITH_TIMEOUT(failed.size(), writes, 10000);
         }
-        QVERIFY(failed[0] >= 0 && failed[1] - failed[0] >= 990);
+        QVERIFY(failed[0] >= 0 && failed[1] >= 1000);  // the second a second after the first at least
         QCOMPARE(messages.count(), 1);
         QCOMPARE(w.currentBoard()->historySize(), moves + 4);
     }
