@@ -139,17 +139,20 @@ KeptGame::Game KeptGame::take() {
     bool readable = file.open(QIODevice::ReadOnly) && file.size() <= kMaxFileSize && decode(file.readAll(), game);
     file.close();
     if (readable) {
-        eng::Board board(nullptr);
+        auto board = std::make_unique<eng::Board>(nullptr);
+        board->setPencilMarksRules(game.boardRules);  // without a position: nothing is applied
         std::istringstream in(game.saved, std::ios::binary);
         try {
-            readable = board.deserialize(in);
+            readable = board->deserialize(in);
         } catch (const std::exception&) {
             readable = false;
         }
         // A finished game, or a board without one, leaves the usual start.
         if (readable) {
-            if (board.getPhase() != eng::phasePlaying || board.historySize() == 0 || board.isComplete()) return Game();
+            if (board->getPhase() != eng::phasePlaying || board->historySize() == 0 || board->isComplete())
+                return Game();
             game.restored = true;
+            game.board = std::move(board);
             return game;
         }
     }

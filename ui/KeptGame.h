@@ -36,6 +36,7 @@ public:
         bool restored = false;  // an unfinished game that was kept
         bool setAside = false;  // a damaged kept file was renamed
         bool damaged = false;   // a damaged kept file was found
+        std::unique_ptr<eng::Board> board;  // saved, read by take(); without an observer
     };
 
     // The kept game lives at path; by default in the user's data location.
@@ -54,7 +55,7 @@ public:
     static bool decode(const QByteArray& bytes, Game& game);
 
     // At start-up, on any thread: the kept game when it is unfinished (restored
-    // set), else none. A file that cannot be read is renamed beside it.
+    // set, and its board read), else none. A file that cannot be read is renamed beside it.
     Game take();
 
     // From the window, once its first game is shown: reports a damaged kept

@@ -52,11 +52,9 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
     std::future<KeptGame::Game> firstGame = std::async(std::launch::async, [rules = selectedRules(), keptGame] {
         KeptGame::Game first = keptGame ? keptGame->take() : KeptGame::Game();
         if (first.restored) return first;
-        eng::Board generator(nullptr);
-        generator.setPencilMarksRules(rules);
-        std::ostringstream saved;
-        if (generator.generate(eng::lvlMedium)) generator.serialize(saved);
-        first.saved = saved.str();
+        first.board = std::make_unique<eng::Board>(nullptr);
+        first.board->setPencilMarksRules(rules);
+        if (!first.board->generate(eng::lvlMedium)) first.board.reset();
         return first;
     });
     installBoardAccessibility();
@@ -111,7 +109,7 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
         puzzleClipboard->paste(board != nullptr);
     });
 
-    const KeptGame::Game first = firstGame.get();
+    KeptGame::Game first = firstGame.get();
     startFirstGame(first);
     Tile::drawPreviews(tiles, 81);
     icons.apply(this);
@@ -422,21 +420,20 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
     return true;
 }
 
-// The first game reaches the window's board as a saved game would; a failed
-// generation is tried again here, where it can be reported. A kept game brings
-// back its rules, level label and pencil marks too.
-void SudokuWindow::startFirstGame(const KeptGame::Game& first) {
+// The first game's board, made on the second thread, becomes the window's; a
+// failed generation is tried again here, where it can be reported. A kept game
+// brings back its rules, level label and pencil marks too.
+void SudokuWindow::startFirstGame(KeptGame::Game& first) {
     if (first.restored) rulesBeforeDialog = first.chosenRules;
     setLevelLabel(first.level);
-    if (first.saved.empty()) {
+    if (!first.board) {
         newGameStep(eng::lvlMedium, true);
         return;
     }
-    replaceBoard();
-    if (first.restored) board->setPencilMarksRules(first.boardRules);
-    std::istringstream in(first.saved);
-    BusyScope scope(busy);
-    board->deserialize(in);
+    delete board;
+    board = first.board.release();
+    board->setObserver(this);
+    showWholeBoard();
     ui->actionViewPencilMarks->setChecked(first.pencilMarksShown);  // the tiles show them after the first frame
 }
 

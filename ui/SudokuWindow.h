@@ -150,7 +150,7 @@ private:
     };
 
     bool newGameStep(int level, bool skipConfirmation);
-    void startFirstGame(const KeptGame::Game& first);
+    void startFirstGame(KeptGame::Game& first);
     void replaceBoard();
     void newGameCommand(int level);
     void setHighlight(int value);

@@ -41,7 +41,8 @@ class TestKeptGame : public QObject {
 private slots:
     // The real program, on xcb: a digit typed, SIGKILL, a start again and Retract Move.
     void killedGameComesBack() {
-        const KeptGame::Game extras{{}, eng::lvlHard, true, {eng::ruleSingles, eng::ruleDoubles}, {eng::ruleDoubles}};
+        const KeptGame::Game extras{
+            {}, eng::lvlHard, true, {eng::ruleSingles, eng::ruleDoubles}, {eng::ruleDoubles}, false, false, false, {}};
         eng::Board seed(nullptr);
         seed.setPencilMarksRules(extras.boardRules);
         QVERIFY(seed.generate(eng::lvlHard) && seed.makeMove());
