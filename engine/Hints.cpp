@@ -499,6 +499,47 @@ bool eliminationStep(const Pos& p, Step& out) {
     return transitiveStep(p, out);
 }
 
+// The candidates (cell, digit bit) whose removal a step's pattern rests on,
+// added to `on`: what had to go for the pattern to hold.
+void dependencies(const Step& s, Mask (&on)[81]) {
+    Mask digits = 0;
+    for (int d : s.digits) digits |= bitOf(d);
+    const auto inBasis = [&](int i) { return std::find(s.basis.begin(), s.basis.end(), i) != s.basis.end(); };
+    switch (s.technique) {
+    case Technique::hiddenSingle:
+        for (int i : cellsOf(s.unit))
+            if (i != s.cell) on[i] |= digits;
+        break;
+    case Technique::nakedSingle: on[s.cell] |= ~digits & kAllValues; break;
+    case Technique::pointing:
+    case Technique::claiming:
+    case Technique::hiddenSubset:
+        for (int i : cellsOf(s.unit))
+            if (!inBasis(i)) on[i] |= digits;
+        break;
+    case Technique::nakedSubset:
+    case Technique::transitiveDoubles:
+        for (int i : s.basis) on[i] |= ~digits & kAllValues;
+        break;
+    default: break;
+    }
+}
+
+// Keeps the eliminations the placement rests on, directly or through the steps that need them.
+void keepNeeded(const Step& placement, std::vector<Step>& steps) {
+    Mask on[81] = {};
+    dependencies(placement, on);
+    std::vector<Step> kept;
+    for (auto s = steps.rbegin(); s != steps.rend(); ++s) {
+        const bool needed = std::any_of(s->eliminations.begin(), s->eliminations.end(),
+                                        [&](const std::pair<int, int>& e) { return on[e.first] & bitOf(e.second); });
+        if (!needed) continue;
+        dependencies(*s, on);
+        kept.insert(kept.begin(), *s);
+    }
+    steps = std::move(kept);
+}
+
 void apply(const Step& s, Pos& p) {
     for (const auto& e : s.eliminations) p.mask[e.first] &= ~bitOf(e.second);
 }
@@ -535,7 +576,10 @@ Hint findHint(const Grid& grid, bool placeValue) {
         apply(s, p);
         h.needed.push_back(s);
         if (findContradiction(p, h)) return h;
-        if (hiddenSingle(p, h.step) || nakedSingle(p, h.step)) return h.outcome = Hint::found, h;
+        if (hiddenSingle(p, h.step) || nakedSingle(p, h.step)) {
+            keepNeeded(h.step, h.needed);
+            return h.outcome = Hint::found, h;
+        }
     }
     h.needed.clear();
     return h;

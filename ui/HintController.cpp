@@ -35,8 +35,8 @@ QString unitName(int unit) {
 
 QString cellName(int cell) { return HintController::tr("row %1, column %2").arg(cell / 9 + 1).arg(cell % 9 + 1); }
 
-// Cells of one row or column are named by that line once.
-QString cells(const std::vector<int>& indices) {
+// Cells of one row or column are named by that line once, and not at all within it.
+QString cells(const std::vector<int>& indices, int within = -1) {
     if (indices.size() == 1) return cellName(indices.front());
     bool oneRow = true, oneColumn = true;
     QStringList rows, columns, names;
@@ -48,6 +48,8 @@ QString cells(const std::vector<int>& indices) {
         names << cellName(i);
     }
     const QString comma = HintController::tr(", ");
+    if (oneRow && within == indices.front() / 9) return HintController::tr("columns %1").arg(list(columns, comma));
+    if (oneColumn && within == 9 + indices.front() % 9) return HintController::tr("rows %1").arg(list(rows, comma));
     if (oneRow) return HintController::tr("row %1, columns %2").arg(indices.front() / 9 + 1).arg(list(columns, comma));
     if (oneColumn) return HintController::tr("column %1, rows %2").arg(indices.front() % 9 + 1).arg(list(rows, comma));
     return list(names, HintController::tr("; "));
@@ -83,9 +85,9 @@ QString premise(const Step& s) {
     case Technique::claiming:
         return HintController::tr("%1 in %2 lies in %3").arg(s.digits.front()).arg(unitName(s.unit), unitName(s.otherUnit));
     case Technique::hiddenSubset:
-        return HintController::tr("in %1, %2 can only go in %3").arg(unitName(s.unit), digits(s.digits), cells(s.basis));
+        return HintController::tr("in %1, %2 can only go in %3").arg(unitName(s.unit), digits(s.digits), cells(s.basis, s.unit));
     default:
-        return HintController::tr("in %1, %2 can only hold %3").arg(unitName(s.unit), cells(s.basis), digits(s.digits));
+        return HintController::tr("in %1, %2 can only hold %3").arg(unitName(s.unit), cells(s.basis, s.unit), digits(s.digits));
     }
 }
 

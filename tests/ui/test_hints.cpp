@@ -30,6 +30,9 @@ class HintTest : public QObject {
 
     eng::Board& board() { return *window->currentBoard(); }
     QString status() { return window->statusBar()->currentMessage(); }
+    void showMarks(bool show) {
+        if (child<QAction>(*window, "actionViewPencilMarks")->isChecked() != show) trigger(*window, "actionViewPencilMarks");
+    }
     void newGame(const char* action, unsigned seed) {
         std::srand(seed);
         trigger(*window, action);
@@ -62,7 +65,7 @@ private slots:
         delete window;
         delete answerer;
     }
-    void init() { child<QAction>(*window, "actionViewPencilMarks")->setChecked(false); }
+    void init() { showMarks(false); }
 
     // First press: the hint shows, spoken and in the status bar, nothing changes; second press: it is carried out,
     // a placement as make move places (the solution's digit), removals as the player's toggles.
@@ -76,7 +79,7 @@ private slots:
         QFETCH(bool, marks);
         QFETCH(int, presses);
         newGame("actionNewGameHard", 114);
-        child<QAction>(*window, "actionViewPencilMarks")->setChecked(marks);
+        showMarks(marks);
         QSignalSpy spoken(hints, &HintController::announce);
         bool removed = false;
         for (int n = 0; n < presses && !board().isComplete(); ++n) {
@@ -111,7 +114,7 @@ private slots:
     // box 1 is a hidden single there.
     void playerRemovedMarks() {
         newGame("actionNewGameHard", 78);
-        child<QAction>(*window, "actionViewPencilMarks")->setChecked(true);
+        showMarks(true);
         int digit = 1;
         auto inBox = [&](int k) { return k / 3 * 9 + k % 3 + 0; };  // box 1's cells
         auto placed = [&](int d) {
