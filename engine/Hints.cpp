@@ -446,22 +446,26 @@ bool pointingOrClaiming(const Pos& p, bool pointing, Step& out) {
 // n empty cells of a unit within n digits.
 bool nakedSubset(const Pos& p, int n, Step& out) {
     for (int unit = 0; unit < eng_priv::kTupleCount; ++unit) {
+        unsigned open = 0;  // positions that may take part: empty, two or more candidates
+        for (int pos = 0; pos < 9; ++pos) {
+            const int i = cellsOf(unit)[pos];
+            if (!p.value[i] && countOf(p.mask[i]) > 1 && countOf(p.mask[i]) <= n) open |= 1u << pos;
+        }
+        if (countOf(open) < n) continue;
         for (unsigned chosen = 0; chosen < 512; ++chosen) {
-            if (countOf(chosen) != n) continue;
+            if ((chosen & ~open) || countOf(chosen) != n) continue;
             Mask digits = 0;
-            bool usable = true;
+            for (unsigned rest = chosen; rest; rest &= rest - 1) digits |= p.mask[cellsOf(unit)[__builtin_ctz(rest)]];
+            if (countOf(digits) != n) continue;
+            Step s;
             std::vector<int> cells;
             for (int pos = 0; pos < 9; ++pos) {
-                if (!(chosen & (1u << pos))) continue;
-                const int i = cellsOf(unit)[pos];
-                usable = usable && !p.value[i] && countOf(p.mask[i]) > 1;
-                digits |= p.mask[i];
-                cells.push_back(i);
+                const int j = cellsOf(unit)[pos];
+                if (chosen & (1u << pos))
+                    cells.push_back(j);
+                else if (!p.value[j])
+                    eliminate(s, p, j, digits);
             }
-            if (!usable || countOf(digits) != n) continue;
-            Step s;
-            for (int j : cellsOf(unit))
-                if (!p.value[j] && std::find(cells.begin(), cells.end(), j) == cells.end()) eliminate(s, p, j, digits);
             if (finish(s, Technique::nakedSubset, static_cast<Rules>(0), unit, digits, cells)) return out = s, true;
         }
     }
@@ -472,15 +476,18 @@ bool nakedSubset(const Pos& p, int n, Step& out) {
 bool hiddenSubset(const Pos& p, int n, Step& out) {
     for (int unit = 0; unit < eng_priv::kTupleCount; ++unit) {
         const Mask open = kAllValues & ~placedIn(p, unit);
+        if (countOf(open) <= n) continue;
+        unsigned where[9];
+        for (int d = 1; d <= 9; ++d) where[d - 1] = placesOf(p, unit, d);
         for (Mask digits = 0; digits < 512; ++digits) {
-            if (countOf(digits) != n || (digits & ~open)) continue;
-            unsigned where = 0;
-            for (int d : digitsOf(digits)) where |= placesOf(p, unit, d);
-            if (countOf(where) != n) continue;
+            if ((digits & ~open) || countOf(digits) != n) continue;
+            unsigned cellsAt = 0;
+            for (Mask rest = digits; rest; rest &= rest - 1) cellsAt |= where[__builtin_ctz(rest)];
+            if (countOf(cellsAt) != n) continue;
             Step s;
             std::vector<int> cells;
             for (int pos = 0; pos < 9; ++pos) {
-                if (!(where & (1u << pos))) continue;
+                if (!(cellsAt & (1u << pos))) continue;
                 cells.push_back(cellsOf(unit)[pos]);
                 eliminate(s, p, cells.back(), ~digits & kAllValues);
             }
