@@ -179,9 +179,9 @@ TEST(Hints, PositionsWithoutAStep) {
     EXPECT_EQ(findHint(complete, true).outcome, Hint::contradiction);
 }
 
-// Generated games of each level, hints carried out on the board until it is complete: with values alone every hint
-// places the solution's digit; with pencil marks shown every hint is a correct placement or removal. The number of
-// games per level is SUDOKU_HINT_GAMES (default 1000).
+// Generated games of each level, hints carried out on the board (as make move places, as the player's toggles remove)
+// until it is complete: with values alone every hint places the solution's digit; with pencil marks shown every hint
+// is a correct placement or removal. SUDOKU_HINT_GAMES games per level (default 1000).
 TEST(Hints, SolveGeneratedGames) {
     const char* env = std::getenv("SUDOKU_HINT_GAMES");
     const int games = env ? std::atoi(env) : 1000;
@@ -201,8 +201,12 @@ TEST(Hints, SolveGeneratedGames) {
                 ASSERT_EQ(h.outcome, Hint::found) << "level " << level << " game " << g;
                 seen.insert(h.step.technique);
                 for (const Step& s : h.needed) seen.insert(s.technique);
+                const int cell = h.step.places() ? h.step.cell : h.step.eliminations.front().first;
+                const int solution = board.solutionValue(cell), other = solution % 9 + 1;
+                // A wrong digit, or a removal of the solution's, is refused as a whole.
+                ASSERT_FALSE(board.placeMove(cell, other) || board.removePotentials({{cell, other}, {cell, solution}}));
                 if (h.step.places()) {
-                    ASSERT_EQ(h.step.value, board.solutionValue(h.step.cell));
+                    ASSERT_EQ(h.step.value, solution);
                     ASSERT_TRUE(board.placeMove(h.step.cell, h.step.value));
                 } else {
                     ASSERT_FALSE(placeValue);
@@ -216,29 +220,4 @@ TEST(Hints, SolveGeneratedGames) {
     for (Technique t : {Technique::lastEmptyCell, Technique::hiddenSingle, Technique::nakedSingle, Technique::pointing,
                         Technique::claiming, Technique::nakedSubset, Technique::single})
         EXPECT_TRUE(seen.count(t)) << static_cast<int>(t);
-}
-
-// Carrying out a hint on the board: a placement is a make move (origin 3, one history entry, retractable), a wrong
-// digit is refused; removals go as the player's toggles, all or none.
-TEST(Hints, BoardCarriesOutAHint) {
-    testing_support::seedRandom(4242);
-    Board board(nullptr);
-    ASSERT_TRUE(board.generate(lvlEasy));
-    int empty = 0;
-    while (board.cell(empty)->value()) ++empty;
-    const int digit = board.solutionValue(empty), other = digit % 9 + 1;
-    const size_t before = board.historySize();
-    EXPECT_FALSE(board.placeMove(empty, other));
-    const bool had = board.cell(empty)->isPotential(other);
-    EXPECT_FALSE(board.removePotentials({{empty, other}, {empty, digit}}));
-    EXPECT_EQ(board.cell(empty)->isPotential(other), had);
-    EXPECT_TRUE(board.removePotentials({{empty, other}}));
-    EXPECT_FALSE(board.cell(empty)->isPotential(other));
-    EXPECT_EQ(board.historySize(), before);
-    EXPECT_TRUE(board.placeMove(empty, digit));
-    EXPECT_EQ(board.cell(empty)->origin(), originMove);
-    EXPECT_EQ(board.historySize(), before + 1);
-    EXPECT_FALSE(board.placeMove(empty, digit));
-    EXPECT_TRUE(board.retract());
-    EXPECT_EQ(board.cell(empty)->value(), 0);
 }
