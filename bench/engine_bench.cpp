@@ -5,6 +5,8 @@
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
+#include <fstream>
+#include <string>
 #include <vector>
 
 #include <fstream>
@@ -12,6 +14,8 @@
 
 #include "Board.h"
 #include "Hints.h"
+#include "ExactSolver.h"
+#include "PuzzleText.h"
 #include "RuleSolver.h"
 
 namespace {
@@ -109,16 +113,16 @@ BENCHMARK(BM_UserEditMakeMove)->Unit(benchmark::kMicrosecond);
 
 // The published hard puzzles, each at its start and where hints stop (no rule
 // finds a step: every technique has been tried on every unit).
-std::vector<eng::Grid> hardPositions() {
-    std::vector<eng::Grid> out;
-    std::ifstream in(SUDOKU_HARD_PUZZLES);
+std::vector<eng::Position> hardPositions() {
+    std::vector<eng::Position> out;
+    std::ifstream in(SUDOKU_PUZZLES);
+    eng::Grid g{};
     for (std::string line; std::getline(in, line);) {
-        if (line.size() < 81 || line[0] == '#') continue;
-        eng::Grid g;
-        for (int i = 0; i < 81; ++i) g.values[i] = line[i] >= '1' && line[i] <= '9' ? line[i] - '0' : 0;
-        out.push_back(g);
-        for (eng::Hint h; (h = eng::findHint(g, true)).outcome == eng::Hint::found;) g.values[h.step.cell] = h.step.value;
-        out.push_back(g);
+        if (!eng::readPuzzle(line, g)) continue;
+        out.push_back(eng::positionFromValues(g));
+        for (eng::Hint h; (h = eng::findHint(eng::positionFromValues(g), true)).outcome == eng::Hint::found;)
+            g[h.step.cell] = h.step.value;
+        out.push_back(eng::positionFromValues(g));
     }
     return out;
 }
@@ -126,16 +130,8 @@ std::vector<eng::Grid> hardPositions() {
 // Hints on each hard position (every iteration takes one on each), values only (range 0: the hint places a
 // value) or on the candidates the values leave (1: the pencil marks shown).
 void BM_Hint(benchmark::State& state) {
-    static const std::vector<eng::Grid> positions = hardPositions();
+    static const std::vector<eng::Position> grids = hardPositions();
     const bool placeValue = state.range(0) == 0;
-    std::vector<eng::Grid> grids = positions;
-    for (eng::Grid& g : grids)
-        for (int i = 0; i < 81; ++i) {
-            g.candidates[i] = g.values[i] ? 1u << (g.values[i] - 1) : 0x1FF;
-            for (int j = 0; j < 81 && !g.values[i]; ++j)
-                if (g.values[j] && (i / 9 == j / 9 || i % 9 == j % 9 || (i / 27 == j / 27 && i % 9 / 3 == j % 9 / 3)))
-                    g.candidates[i] &= ~(1u << (g.values[j] - 1));
-        }
     std::vector<std::vector<double>> millis(grids.size());
     std::vector<double> cpuMillis;
     for (auto _ : state) {
@@ -162,6 +158,36 @@ void BM_Hint(benchmark::State& state) {
     state.counters["positions"] = static_cast<double>(grids.size());
 }
 BENCHMARK(BM_Hint)->Arg(0)->Arg(1)->Iterations(21)->Unit(benchmark::kMillisecond);
+
+// Checking a pasted puzzle: the exact solver counts the solutions (up to two)
+// of each published hard puzzle in turn; median and p99 over all the checks.
+// The grading of the same puzzles by the level presets is timed beside it.
+void BM_ExactSolverPublished(benchmark::State& state) {
+    std::vector<eng::Grid> puzzles;
+    std::ifstream in(SUDOKU_PUZZLES);
+    eng::Grid g{};
+    for (std::string line; std::getline(in, line);)
+        if (eng::readPuzzle(line, g)) puzzles.push_back(g);
+    const bool grading = state.range(0) == 1;
+    std::vector<double> millis;
+    size_t next = 0;
+    int notUnique = 0;
+    for (auto _ : state) {
+        const eng::Grid& puzzle = puzzles[next++ % puzzles.size()];
+        const auto start = std::chrono::steady_clock::now();
+        if (grading)
+            benchmark::DoNotOptimize(eng::Board::grade(puzzle));
+        else
+            notUnique += eng::ExactSolver::countSolutions(puzzle, &g, 2) != 1;
+        millis.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+    }
+    state.counters["puzzles"] = static_cast<double>(puzzles.size());
+    state.counters["median_ms"] = percentile(millis, 0.5);
+    state.counters["p99_ms"] = percentile(millis, 0.99);
+    state.counters["max_ms"] = percentile(millis, 1.0);
+    state.counters["not_unique"] = notUnique;
+}
+BENCHMARK(BM_ExactSolverPublished)->Arg(0)->Arg(1)->Iterations(2300)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

@@ -23,8 +23,8 @@ std::vector<int> Step::targets() const {
     return out;
 }
 
-Grid gridOf(const Board& board) {
-    Grid g;
+Position positionOf(const Board& board) {
+    Position g;
     for (int i = 0; i < 81; ++i) {
         const CellInfo* c = board.cell(i);
         if (!c) continue;
@@ -33,6 +33,24 @@ Grid gridOf(const Board& board) {
             if (c->isPotential(v)) g.candidates[i] |= bitOf(v);
     }
     return g;
+}
+
+namespace {
+
+bool sees(int a, int b);
+
+}  // namespace
+
+Position positionFromValues(const Grid& values) {
+    Position p;
+    for (int i = 0; i < 81; ++i) {
+        p.values[i] = values[i] >= 1 && values[i] <= 9 ? values[i] : 0;
+        p.candidates[i] = p.values[i] ? bitOf(p.values[i]) : kAllValues;
+    }
+    for (int i = 0; i < 81; ++i)
+        for (int j = 0; j < 81 && !p.values[i]; ++j)
+            if (p.values[j] && sees(i, j)) p.candidates[i] &= ~bitOf(p.values[j]);
+    return p;
 }
 
 namespace {
@@ -553,7 +571,8 @@ void apply(const Step& s, Pos& p) {
 
 }  // namespace
 
-Hint findHint(const Grid& grid, bool placeValue) {
+Hint findHint(const Position& position, bool placeValue) {
+    const Position grid = placeValue ? positionFromValues(position.values) : position;
     Pos p;
     int filled = 0;
     for (int i = 0; i < 81; ++i) {
@@ -566,14 +585,6 @@ Hint findHint(const Grid& grid, bool placeValue) {
     if (filled == 81 || filled == 0) {
         if (!filled || !findContradiction(p, h)) h.outcome = filled ? Hint::complete : Hint::empty;
         return h;
-    }
-    if (placeValue) {
-        for (int i = 0; i < 81; ++i) {
-            if (p.value[i]) continue;
-            p.mask[i] = kAllValues;
-            for (int j = 0; j < 81; ++j)
-                if (p.value[j] && sees(i, j)) p.mask[i] &= ~bitOf(p.value[j]);
-        }
     }
     if (findContradiction(p, h)) return h;
     if (placementStep(p, h.step)) return h.outcome = Hint::found, h;

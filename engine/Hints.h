@@ -2,6 +2,7 @@
 // The next deduction on a position, found without changing it: what a hint
 // shows and carries out, and what each rule's pass would do first.
 
+#include "Grid.h"
 #include "Step.h"
 
 namespace eng_priv {
@@ -14,13 +15,15 @@ class Board;
 
 // A position as a hint reads it: each cell's value (0: empty) and its
 // candidates, bit v-1 standing for v.
-struct Grid {
-    int values[81] = {};
+struct Position {
+    Grid values{};
     unsigned candidates[81] = {};
 };
 
 // The board's current position: its values and candidates (the pencil marks).
-Grid gridOf(const Board& board);
+Position positionOf(const Board& board);
+// Values and the candidates they leave: what a player sees without pencil marks.
+Position positionFromValues(const Grid& values);
 
 struct Hint {
     enum Outcome { noStep, found, contradiction, complete, empty };
@@ -38,7 +41,7 @@ struct Hint {
 // locked candidates, naked and hidden pairs, triples and quads, transitive
 // doubles. With `placeValue` the candidates are recomputed from the values and
 // the step is always a placement, the eliminations it needs kept in `needed`.
-Hint findHint(const Grid& grid, bool placeValue);
+Hint findHint(const Position& position, bool placeValue);
 
 // The step a rule's pass would take on the snapshot, by the pass's own
 // conditions (the changed marks included); false when the rule would remove

@@ -165,7 +165,7 @@ std::vector<int> HintController::state() const {
     out.push_back(static_cast<int>(reinterpret_cast<quintptr>(board) & 0x7fffffff));
     out.push_back(static_cast<int>(board->historySize()));
     out.push_back(static_cast<int>(board->undoneSize()));
-    const eng::Grid grid = eng::gridOf(*board);
+    const eng::Position grid = eng::positionOf(*board);
     for (int i = 0; i < 81; ++i) out.push_back(grid.values[i] * 1024 + static_cast<int>(grid.candidates[i]));
     return out;
 }
@@ -177,7 +177,7 @@ void HintController::hint() {
     const eng::Board* board = window->currentBoard();
     if (!board || board->getPhase() != eng::phasePlaying) return tell(tr("The board is empty: enter a puzzle first, or use Make Move."));
     const bool placeValue = !pencilMarksShown();
-    Hint found = eng::findHint(eng::gridOf(*board), placeValue);
+    Hint found = eng::findHint(eng::positionOf(*board), placeValue);
     // Never a wrong digit: a placement must be the stored solution's.
     const int solution = found.outcome == Hint::found && found.step.places() ? board->solutionValue(found.step.cell) : 0;
     if (solution != 0 && solution != found.step.value) found = Hint{};

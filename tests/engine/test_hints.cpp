@@ -42,17 +42,12 @@ BoardSnapshot ruleSnapshot(const std::string& text) {
     return s;
 }
 
-Grid grid(const std::string& text) {
-    Grid g;
+Position grid(const std::string& text) {
+    Grid values{};
     forTokens(text, [&](int i, char op, int d) {
-        if (op == '=') g.values[i] = d;
+        if (op == '=') values[i] = d;
     });
-    for (int i = 0; i < 81; ++i) {
-        g.candidates[i] = g.values[i] ? 1u << (g.values[i] - 1) : 0x1FF;
-        for (int j = 0; j < 81 && !g.values[i]; ++j)
-            if (g.values[j] && (i / 9 == j / 9 || i % 9 == j % 9 || (i / 27 == j / 27 && i % 9 / 3 == j % 9 / 3)))
-                g.candidates[i] &= ~(1u << (g.values[j] - 1));
-    }
+    Position g = positionFromValues(values);
     forTokens(text, [&](int i, char op, int d) {
         if (op == '-') g.candidates[i] &= ~(1u << (d - 1));
         if (op == '+') g.candidates[i] |= 1u << (d - 1);
@@ -161,10 +156,10 @@ INSTANTIATE_TEST_SUITE_P(Positions, Hints, ::testing::ValuesIn(kHints));
 
 // Positions a hint cannot work on say why: complete, empty, a digit twice or nowhere in a unit, a cell emptied.
 TEST(Hints, PositionsWithoutAStep) {
-    Grid complete;
+    Position complete;
     for (int i = 0; i < 81; ++i) complete.values[i] = (i / 9 * 3 + i / 27 + i % 9) % 9 + 1;
     EXPECT_EQ(findHint(complete, true).outcome, Hint::complete);
-    EXPECT_EQ(findHint(Grid(), true).outcome, Hint::empty);
+    EXPECT_EQ(findHint(Position(), true).outcome, Hint::empty);
     const struct { std::string position; Hint::Conflict conflict; int unit, cell, digit; } cases[] = {
         {"0=1 1=2 2=3 3=4 15=9 21=9", Hint::digitNowhere, 0, -1, 9},
         {"0=5 4=5", Hint::digitTwice, 0, -1, 5},
@@ -196,7 +191,7 @@ TEST(Hints, SolveGeneratedGames) {
             ASSERT_TRUE(board.generate(level));
             const bool placeValue = g % 2 == 0;
             while (!board.isComplete()) {
-                const Hint h = findHint(gridOf(board), placeValue);
+                const Hint h = findHint(positionOf(board), placeValue);
                 ++hints;
                 ASSERT_EQ(h.outcome, Hint::found) << "level " << level << " game " << g;
                 seen.insert(h.step.technique);
