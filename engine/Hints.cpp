@@ -23,36 +23,6 @@ std::vector<int> Step::targets() const {
     return out;
 }
 
-Position positionOf(const Board& board) {
-    Position g;
-    for (int i = 0; i < 81; ++i) {
-        const CellInfo* c = board.cell(i);
-        if (!c) continue;
-        g.values[i] = c->value();
-        for (int v = 1; v <= 9; ++v)
-            if (c->isPotential(v)) g.candidates[i] |= bitOf(v);
-    }
-    return g;
-}
-
-namespace {
-
-bool sees(int a, int b);
-
-}  // namespace
-
-Position positionFromValues(const Grid& values) {
-    Position p;
-    for (int i = 0; i < 81; ++i) {
-        p.values[i] = values[i] >= 1 && values[i] <= 9 ? values[i] : 0;
-        p.candidates[i] = p.values[i] ? bitOf(p.values[i]) : kAllValues;
-    }
-    for (int i = 0; i < 81; ++i)
-        for (int j = 0; j < 81 && !p.values[i]; ++j)
-            if (p.values[j] && sees(i, j)) p.candidates[i] &= ~bitOf(p.values[j]);
-    return p;
-}
-
 namespace {
 
 // A position and the pass's changed marks; a hint treats every cell as changed.
@@ -570,6 +540,30 @@ void apply(const Step& s, Pos& p) {
 }
 
 }  // namespace
+
+Position positionOf(const Board& board) {
+    Position g;
+    for (int i = 0; i < 81; ++i) {
+        const CellInfo* c = board.cell(i);
+        if (!c) continue;
+        g.values[i] = c->value();
+        for (int v = 1; v <= 9; ++v)
+            if (c->isPotential(v)) g.candidates[i] |= bitOf(v);
+    }
+    return g;
+}
+
+Position positionFromValues(const Grid& values) {
+    Position p;
+    for (int i = 0; i < 81; ++i) {
+        p.values[i] = values[i] >= 1 && values[i] <= 9 ? values[i] : 0;
+        p.candidates[i] = p.values[i] ? bitOf(p.values[i]) : kAllValues;
+    }
+    for (int i = 0; i < 81; ++i)
+        for (int j = 0; j < 81 && !p.values[i]; ++j)
+            if (p.values[j] && sees(i, j)) p.candidates[i] &= ~bitOf(p.values[j]);
+    return p;
+}
 
 Hint findHint(const Position& position, bool placeValue) {
     const Position grid = placeValue ? positionFromValues(position.values) : position;

@@ -157,12 +157,11 @@ bool HintController::pencilMarksShown() const {
     return marks && marks->isChecked();
 }
 
-// The board, its history and every cell, and whether pencil marks show.
+// Whether pencil marks show, the board's history and every cell.
 std::vector<int> HintController::state() const {
     const eng::Board* board = window->currentBoard();
     std::vector<int> out{pencilMarksShown(), board != nullptr};
     if (!board) return out;
-    out.push_back(static_cast<int>(reinterpret_cast<quintptr>(board) & 0x7fffffff));
     out.push_back(static_cast<int>(board->historySize()));
     out.push_back(static_cast<int>(board->undoneSize()));
     const eng::Position grid = eng::positionOf(*board);
@@ -172,7 +171,7 @@ std::vector<int> HintController::state() const {
 
 void HintController::hint() {
     if (window->isBusy()) return;  // a blink, the celebration or a message box: the board is not to be touched
-    if (showing && state() == shownState) return carryOutShown();
+    if (showing && window->currentBoard() == shownBoard && state() == shownState) return carryOutShown();
     clear();
     const eng::Board* board = window->currentBoard();
     if (!board || board->getPhase() != eng::phasePlaying) return tell(tr("The board is empty: enter a puzzle first, or use Make Move."));
@@ -188,6 +187,7 @@ void HintController::hint() {
 void HintController::show(const Hint& hint) {
     shown = hint;
     showing = true;
+    shownBoard = window->currentBoard();
     shownState = state();
     std::vector<int> basis = hint.step.basis;
     for (const Step& s : hint.needed) basis.insert(basis.end(), s.basis.begin(), s.basis.end());

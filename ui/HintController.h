@@ -48,7 +48,9 @@ private:
     eng::Hint shown;
     bool showing = false;
     QString message;
-    std::vector<int> shownState;  // what the board and view were when the hint was shown
+    // What the board and the view were when the hint was shown.
+    const eng::Board* shownBoard = nullptr;
+    std::vector<int> shownState;
 
     std::vector<int> state() const;
     bool pencilMarksShown() const;
