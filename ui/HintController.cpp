@@ -202,11 +202,12 @@ void HintController::tell(const QString& text) {
     emit announce(text);
 }
 
+// The hint's tiles and its words go; so do the words of a press that found no step.
 void HintController::clear() {
-    if (!showing) return;
+    if (showing)
+        for (int i = 0; i < 81; ++i) window->tileAt(i)->showHint(Tile::NoHint);
     showing = false;
-    for (int i = 0; i < 81; ++i) window->tileAt(i)->showHint(Tile::NoHint);
-    if (window->statusBar()->currentMessage() == message) window->statusBar()->clearMessage();
+    if (!message.isEmpty() && window->statusBar()->currentMessage() == message) window->statusBar()->clearMessage();
     message.clear();
 }
 
@@ -225,7 +226,7 @@ void HintController::carryOutShown() {
 // A click or a key anywhere but in the menus, other than the hint's own
 // shortcut, is another action.
 bool HintController::eventFilter(QObject* watched, QEvent* event) {
-    if (!showing || (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::KeyPress))
+    if (message.isEmpty() || (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::KeyPress))
         return false;
     if (qobject_cast<QMenu*>(watched) || qobject_cast<QMenuBar*>(watched)) return false;
     if (event->type() == QEvent::KeyPress) {
