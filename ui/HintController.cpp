@@ -199,6 +199,7 @@ void HintController::show(const Hint& hint) {
 void HintController::tell(const QString& text) {
     message = text;
     window->statusBar()->showMessage(text);
+    window->statusBar()->setToolTip(text);  // the whole of a reason too long for the bar
     emit announce(text);
 }
 
@@ -208,6 +209,7 @@ void HintController::clear() {
         for (int i = 0; i < 81; ++i) window->tileAt(i)->showHint(Tile::NoHint);
     showing = false;
     if (!message.isEmpty() && window->statusBar()->currentMessage() == message) window->statusBar()->clearMessage();
+    if (!message.isEmpty()) window->statusBar()->setToolTip(QString());
     message.clear();
 }
 
