@@ -17,6 +17,7 @@
 
 #include "AboutDialog.h"
 #include "ActionIcons.h"
+#include "HintController.h"
 #include "PuzzleClipboard.h"
 #include "TileAccessible.h"
 #include "ui_SudokuWindow.h"
@@ -80,6 +81,17 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
         connect(tile, &Tile::potentialsEdited, this, &SudokuWindow::tilePotentialsEdited);
         connect(tile, &Tile::moveCaret, this, &SudokuWindow::tileMoveCaret);
     }
+    // Game -> Hint: a hint carried out changes the board as Make Move does.
+    new HintController(this, ui->actionHint, [this](const std::function<void()>& change) {
+        if (!board || busy) return;
+        {
+            BusyScope scope(busy);
+            markChanges = true;
+            change();
+            markChanges = false;
+        }
+        if (board->isComplete()) celebrate();
+    });
     // The window is as large as its board and cannot be resized or maximised.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
