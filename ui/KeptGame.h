@@ -36,7 +36,7 @@ public:
         bool restored = false;  // an unfinished game that was kept
         bool setAside = false;  // a damaged kept file was renamed
         bool damaged = false;   // a damaged kept file was found
-        std::unique_ptr<eng::Board> board;  // saved, read by take(); without an observer
+        std::unique_ptr<eng::Board> board;  // the game, read by take() or generated; it reports to no observer yet
     };
 
     // The kept game lives at path; by default in the user's data location.
