@@ -1,12 +1,14 @@
 #pragma once
 // Shared helpers for the engine tests: an observer that writes down every report, saving and loading, seeding.
 #include <cstdlib>
+#include <list>
 #include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "Board.h"
+#include "Step.h"
 
 namespace testing_support {
 
@@ -62,6 +64,35 @@ inline std::vector<int> values(const eng::Board& b) {
     std::vector<int> out;
     for (int i = 0; i < 81; ++i) out.push_back(b.cell(i) ? b.cell(i)->value() : -1);
     return out;
+}
+
+// Tokens "CELLS op DIGITS", CELLS a comma list of indices: f(cell, op, digits) for each; "clean" gives f(-1, 'c', ...).
+template <typename F>
+void forTokens(const std::string& text, F f) {
+    std::istringstream in(text);
+    for (std::string token; in >> token;) {
+        const size_t at = token == "clean" ? 0 : token.find_first_of(":-+*=!~");
+        std::list<int> digits;
+        for (char ch : token.substr(at + 1)) digits.push_back(ch - '0');
+        std::istringstream cells(token.substr(0, at));
+        for (std::string cell; std::getline(cells, cell, ',');) f(std::stoi(cell), token[at], digits);
+        if (at == 0) f(-1, 'c', digits);
+    }
+}
+
+inline std::string join(const std::vector<int>& v) {
+    std::string out;
+    for (int x : v) out += (out.empty() ? "" : ",") + std::to_string(x);
+    return out;
+}
+
+// A step as the tests write it: "technique unit digits basis>targets", then "cell=value" for a placement.
+inline std::string describe(const eng::Step& s) {
+    static const char* const names[] = {"none",    "lastEmptyCell", "hiddenSingle", "nakedSingle",  "single",
+                                        "pointing", "claiming",      "nakedSubset",  "hiddenSubset", "transitiveDoubles"};
+    const std::string out = std::string(names[int(s.technique)]) + ' ' + std::to_string(s.unit) + ' ' + join(s.digits) +
+                            ' ' + join(s.basis) + '>' + join(s.targets());
+    return s.places() ? out + ' ' + std::to_string(s.cell) + '=' + std::to_string(s.value) : out;
 }
 
 }  // namespace testing_support

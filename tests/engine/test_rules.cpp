@@ -3,34 +3,22 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
-#include <sstream>
 
+#include "BoardTestSupport.h"
 #include "Conflicts.h"
+#include "Hints.h"
 #include "RuleSolver.h"
 
 using namespace eng;
 using eng_priv::BoardSnapshot;
 using eng_priv::RuleSolver;
+using testing_support::forTokens;
 
 namespace {
 
-// Positions and expectations are written as tokens "CELLS op DIGITS", CELLS a comma list of indices. In a position: ':'
-// keeps only DIGITS, '-' removes them, '*' places the value (narrowed, then set), '=' sets the value alone, '!' and '~'
-// set and clear the changed mark; "clean" clears every mark. In an expectation: ':' is the exact candidate list, '+'
-// has them all, '-' none.
-void forTokens(const std::string& text, const std::function<void(int, char, const std::list<int>&)>& f) {
-    std::istringstream in(text);
-    for (std::string token; in >> token;) {
-        const size_t at = token == "clean" ? 0 : token.find_first_of(":-+*=!~");
-        std::list<int> digits;
-        for (char ch : token.substr(at + 1)) digits.push_back(ch - '0');
-        std::istringstream cells(token.substr(0, at));
-        for (std::string cell; std::getline(cells, cell, ',');) f(std::stoi(cell), token[at], digits);
-        if (at == 0) f(-1, 'c', digits);
-    }
-}
-
+// Positions and expectations are written as tokens "CELLS op DIGITS". In a position: ':' keeps only DIGITS, '-' removes
+// them, '*' places the value (narrowed, then set), '=' sets the value alone, '!' and '~' set and clear the changed mark;
+// "clean" clears every mark. In an expectation: ':' is the exact candidate list, '+' has them all, '-' none.
 BoardSnapshot position(const std::string& text) {
     BoardSnapshot s;
     forTokens(text, [&](int i, char op, const std::list<int>& d) {
@@ -53,7 +41,7 @@ std::string mismatches(const BoardSnapshot& s, const std::string& text) {
     std::string out;
     forTokens(text, [&](int i, char op, const std::list<int>& d) {
         std::list<int> have;  // the candidates, or for '-' the values that are none
-        for (int v = 1; v <= 9; ++v)
+        for (int v = 1; v <= 9 && i >= 0; ++v)
             if (s.cells[i].isPotential(v) == (op != '-')) have.push_back(v);
         if (op == ':' ? have != d : !std::includes(have.begin(), have.end(), d.begin(), d.end()))
             out += " cell " + std::to_string(i) + op;
@@ -72,8 +60,9 @@ std::string run(BoardSnapshot& s, const std::list<Rules>& rules) {
     }
 }
 
-// A position, the rules run on it, what the pass returns and what the cells keep afterwards.
-struct RuleCase { std::string position; std::list<Rules> rules; std::string result, expected; };
+// A position, the rules run on it, what the pass returns, what the cells keep afterwards, and (for one rule) the first
+// step the rule's pass takes as a hint reports it.
+struct RuleCase { std::string position; std::list<Rules> rules; std::string result, expected, step = ""; };
 void PrintTo(const RuleCase& c, std::ostream* out) { *out << '"' << c.position << '"'; }
 
 // The text of a tuple conflict: too many cells for the values, or the reverse.
@@ -84,29 +73,35 @@ std::string tooMany(bool cells, const std::string& tuple, const std::string& val
 
 const RuleCase kCases[] = {
     // Singles: the mask selects row, column and square.
-    {"0:5", {ruleSinglesRowOnly}, "changed", "1-5 9,10,0+5"},
-    {"40:2", {ruleSinglesColOnly}, "changed", "4,76-2 39,30+2"},
-    {"40:2", {ruleSinglesSquareOnly}, "changed", "30,31,32,39,41,48,49,50-2 36,4+2"},
+    {"0:5", {ruleSinglesRowOnly}, "changed", "1-5 9,10,0+5", "single 0 5 0>1,2,3,4,5,6,7,8"},
+    {"40:2", {ruleSinglesColOnly}, "changed", "4,76-2 39,30+2", "single 13 2 40>4,13,22,31,49,58,67,76"},
+    {"40:2", {ruleSinglesSquareOnly}, "changed", "30,31,32,39,41,48,49,50-2 36,4+2",
+     "single 22 2 40>30,31,32,39,41,48,49,50"},
     {"0*4 60,72:4", {ruleSinglesRowOnly}, "changed", "60,72:4"},
+    {"60,72:4", {ruleSinglesRowColOnly}, "changed", "54,62,6,0,80,73-4 40,64+4",
+     "single 6 4 60>54,55,56,57,58,59,61,62"},
     {"0*4 60,72:4", {ruleSinglesColOnly}, "emptied 72", ""},
     // The list: unknown values do nothing; a later success reruns earlier rules.
     {"0:5", {static_cast<Rules>(5), ruleSinglesRowOnly}, "changed", "8-5"},
     {"0:5 9:56", {ruleSinglesRowOnly, ruleSinglesColOnly}, "changed", "10-6"},
-    {"0:5 9:56", {ruleSingles, ruleSingles}, "changed", "0:5 9:6 1,8,10-5 10,18,1-6"},
+    {"0:5 9:56", {ruleSingles}, "changed", "0:5 9:6 1,8,10-5 10,18,1-6", "single 0 5 0>1,2,3,4,5,6,7,8"},
     {"0:5 8:57 17:7", {ruleSinglesRowOnly, ruleSinglesColOnly}, "emptied 17", "1,8,9-5"},
     {"0,1,2,3,5,6,7,8-6", {ruleSingles, ruleHiddenSingles}, "changed", "4:6 13,76-6"},
     // Naked pairs.
-    {"0,1:37 5:379", {ruleDoubles}, "changed", "5:9 19-3 36+3 0:37"},
+    {"0,1:37 5:379", {ruleDoubles}, "changed", "5:9 19-3 36+3 0:37",
+     "nakedSubset 0 3,7 0,1>2,3,4,5,6,7,8,9,10,11,18,19,20"},
     {"0,40:37", {ruleDoubles}, "unchanged", ""},
-    {"0,27:37", {ruleDoubles}, "changed", "9,18,36,45,54,63,72:1245689 1+3 10+7"},
+    {"0,27:37", {ruleDoubles}, "changed", "9,18,36,45,54,63,72:1245689 1+3 10+7",
+     "nakedSubset 9 3,7 0,27>9,18,36,45,54,63,72"},
     {"0,9:37", {ruleDoubles}, "changed", "72-3 20-7 3+7"},
     {"0,10:37 20:17", {ruleDoubles}, "changed", "20:1 28+3 12+7"},
     {"0:37 0=3 1:37", {ruleDoubles}, "unchanged", ""},
     {"0,1,2:37", {ruleDoubles}, "emptied 2", ""},
     // Naked triples and quads search only tuples with a changed cell.
-    {"0:123 1:12 2:23 clean", {ruleTriples}, "unchanged", ""},
-    {"0:123 1:12 2:23", {ruleTriples}, "changed", "3,4,5,6,7,8:456789"},
-    {"0:123 1:12 2:23", {ruleQuads}, "changed", "3,4,5,6,7,8:456789"},
+    {"0:123 1:12 2:23 clean", {ruleTriples}, "unchanged", "", "no step"},
+    {"0:123 1:12 2:23", {ruleTriples}, "changed", "3,4,5,6,7,8:456789", "nakedSubset 0 1,2,3 0,1,2>3,4,5,6,7,8"},
+    {"0:123 1:12 2:23 clean", {ruleQuads}, "unchanged", "", "no step"},
+    {"0:123 1:12 2:23", {ruleQuads}, "changed", "3,4,5,6,7,8:456789", "nakedSubset 0 1,2,3 0,1,2>3,4,5,6,7,8"},
     {"0:123 1:12 2:23 clean 8!", {ruleTriples}, "changed", "4-2 9+2"},
     {"0:123 1*1 2:23", {ruleTriples}, "changed", "3,4,5,6,7,8:456789 27+2 19-2"},
     {"0:456 2:45 4:56 7:46", {ruleTriples}, tooMany(true, "row 1", "4, 5, 6", "0th, 2nd, 4th, 7th"), ""},
@@ -117,20 +112,26 @@ const RuleCase kCases[] = {
     {"0:789 27:78 54:89 72:79 10:78 11:89 19:79", {ruleTriples},
      tooMany(true, "column 1", "7, 8, 9", "0th, 3rd, 6th, 8th"), ""},
     // Transitive pairs: a chain of three pairs; marks play no part.
-    {"0:12 4:23 8:13", {ruleTransitiveDoubles}, "changed", "1,2,3,5,6,7:456789 4:23"},
+    {"0:12 4:23 8:13", {ruleTransitiveDoubles}, "changed", "1,2,3,5,6,7:456789 4:23",
+     "transitiveDoubles 0 1,2,3 0,4,8>1,2,3,5,6,7"},
     {"0:12 4:23 8:13 clean", {ruleTransitiveDoubles}, "changed", "5-3"},
     {"0:12 40:23 80:13", {ruleTransitiveDoubles}, "unchanged", ""},
-    {"0:12 9:23 18:13", {ruleTransitiveDoubles}, "changed", "27,72,1,11,20:456789 3+1"},
+    {"0:12 9:23 18:13", {ruleTransitiveDoubles}, "changed", "27,72,1,11,20:456789 3+1",
+     "transitiveDoubles 9 1,2,3 0,9,18>1,2,10,11,19,20,27,36,45,54,63,72"},
     {"0:12 1:23 2,6:13", {ruleTransitiveDoubles}, "emptied 6", ""},
     // Locked candidates.
-    {"1,3,4,5,6,7,8-5", {ruleLockedByRows}, "changed", "9,10,11,18,19,20-5 27+5"},
+    {"1,3,4,5,6,7,8-5", {ruleLockedByRows}, "changed", "9,10,11,18,19,20-5 27+5", "claiming 0 5 0,2>9,10,11,18,19,20"},
     {"36,37,38,40,42,43,44-8", {ruleLockedByRows}, "changed", "30,31,32,48,49,50-8 39,41,33+8"},
-    {"22,31,40,49,58,67,76-2", {ruleLockedByCols}, "changed", "3,5,12,14,21,23-2"},
-    {"1,2,10,11,18,19,20-7", {ruleLockedBySquares}, "changed", "27,36,45,54,63,72-7"},
+    {"22,31,40,49,58,67,76-2", {ruleLockedByCols}, "changed", "3,5,12,14,21,23-2",
+     "claiming 13 2 4,13>3,5,12,14,21,23"},
+    {"1,2,10,11,18,19,20-7", {ruleLockedBySquares}, "changed", "27,36,45,54,63,72-7",
+     "pointing 18 7 0,9>27,36,45,54,63,72"},
     {"30,31,32,41,48,49,50-8", {ruleLockedBySquares}, "changed", "36,37,38,42,43,44-8 4+8"},
-    {"60,61,69,70,71,78,79-3", {ruleLockedBySquares}, "changed", "8,17,26,35,44,53-3 59,62+3"},
+    {"60,61,69,70,71,78,79-3", {ruleLockedBySquares}, "changed", "8,17,26,35,44,53-3 59,62+3",
+     "pointing 26 3 62,80>8,17,26,35,44,53"},
     // Hidden subsets.
-    {"0,1,2,3,5,6,7,8-6 4:268", {ruleHiddenSingles}, "changed", "4:6 3+2 13+6"},
+    {"0,1,2,3,5,6,7,8-6 4:268", {ruleHiddenSingles}, "changed", "4:6 3+2 13+6", "hiddenSubset 0 6 4>4"},
+    {"0,1,2,3,5,6,7,8-6 clean", {ruleHiddenSingles}, "unchanged", "", "no step"},
     {"0,1,2,3,5,6,7,8-6 4=6", {ruleHiddenSingles}, "unchanged", "4:123456789"},
     {"30,31,32,39,41,48,49,50-9", {ruleHiddenSingles}, "changed", "40:9 4+9"},
     {"0,1,2,3,5,6,7,8-36", {ruleHiddenSingles}, tooMany(false, "row 1", "3, 6", "4th"), ""},
@@ -139,10 +140,12 @@ const RuleCase kCases[] = {
     {"0,18,27,36,45,54,63,72-39 9,10,11,12,13,14,15,16-45 0,1,2,3,4,6,7,8-45", {ruleHiddenSingles},
      tooMany(false, "row 1", "4, 5", "5th"), ""},
     {"2,11,29,38,47,56,74-19 clean", {ruleHiddenDoubles}, "unchanged", ""},
-    {"2,11,29,38,47,56,74-19", {ruleHiddenDoubles}, "changed", "20,65:19"},
+    {"2,11,29,38,47,56,74-19", {ruleHiddenDoubles}, "changed", "20,65:19", "hiddenSubset 11 1,9 20,65>20,65"},
     {"1,2,3,4,5,6,7,8-19", {ruleHiddenDoubles}, "emptied 1", ""},
-    {"73,74,75,77,78,79-123 76-3", {ruleHiddenTriples}, "changed", "72,80:123 76:12 73:456789"},
-    {"64,66,68,70,71-1234", {ruleHiddenQuads}, "changed", "63,65,67,69:1234"},
+    {"73,74,75,77,78,79-123 76-3", {ruleHiddenTriples}, "changed", "72,80:123 76:12 73:456789",
+     "hiddenSubset 8 1,2,3 72,76,80>72,76,80"},
+    {"64,66,68,70,71-1234", {ruleHiddenQuads}, "changed", "63,65,67,69:1234",
+     "hiddenSubset 7 1,2,3,4 63,65,67,69>63,65,67,69"},
 };
 
 class RuleCases : public ::testing::TestWithParam<RuleCase> {};
@@ -151,12 +154,17 @@ class RuleCases : public ::testing::TestWithParam<RuleCase> {};
 
 TEST_P(RuleCases, ClearWhatTheRuleAllows) {
     const RuleCase& c = GetParam();
-    BoardSnapshot s = position(c.position);
+    BoardSnapshot s = position(c.position), steps = s;
     EXPECT_EQ(run(s, c.rules), c.result);
     EXPECT_EQ(mismatches(s, c.expected), "");
-    if (c.result == "changed") {
-        EXPECT_EQ(run(s, c.rules), "unchanged");  // the pass is complete
-    }
+    if (c.result == "changed") { EXPECT_EQ(run(s, c.rules), "unchanged"); }  // the pass is complete
+    if (c.rules.size() > 1 || (c.result != "changed" && c.result != "unchanged")) return;
+    // The rule's steps, reported one at a time and taken until none is left, add up to its pass.
+    Step step;
+    bool found = findRuleStep(c.rules.front(), steps, step);
+    if (!c.step.empty()) { EXPECT_EQ(found ? testing_support::describe(step) : "no step", c.step); }
+    for (int n = 0; n < 200 && found; ++n, found = findRuleStep(c.rules.front(), steps, step)) applyStep(step, steps);
+    for (int i = 0; i < 81; ++i) EXPECT_EQ(steps.cells[i].mask(), s.cells[i].mask()) << "cell " << i;
 }
 
 INSTANTIATE_TEST_SUITE_P(Positions, RuleCases, ::testing::ValuesIn(kCases));
