@@ -6,7 +6,6 @@
 #include "BoardTestSupport.h"
 
 using namespace eng;
-using testing_support::Transcript;
 using testing_support::values;
 
 namespace {
@@ -23,14 +22,12 @@ int filledCount(const Board& b) {
 }
 
 struct Game : ::testing::Test {
-    Transcript observer;
+    testing_support::Transcript observer;
     Board board{&observer};
-
-    void start(int level, Rules rule) {
-        testing_support::seedRandom(1234);
-        board.setPencilMarksRules({rule});
-        ASSERT_TRUE(board.generate(level));
-        ASSERT_EQ(observer.take(), "cellsChanged 81\n");
+    bool start(int level, std::list<Rules> rules = {}) {  // reports the new game's 81 cells
+        board.setPencilMarksRules(rules);
+        observer.take();
+        return board.generate(level) && observer.take() == "cellsChanged 81\n";
     }
 };
 
@@ -44,12 +41,9 @@ TEST_F(Game, LevelsStartAGameAndReplaceTheLastOne) {
     board.applyPencilMarksRule(ruleSingles);
     EXPECT_TRUE(observer.text.empty() && board.historySize() == 0 && board.getPhase() == 0);
     for (int level : {lvlVeryEasy, lvlEasy, lvlMedium, lvlHard}) {
-        board.setPencilMarksRules(level == lvlVeryEasy ? std::list<Rules>{} : std::list<Rules>{ruleSingles});
-        observer.take();  // the new rules ran on the last game
-        ASSERT_TRUE(board.generate(level));
+        ASSERT_TRUE(start(level, level == lvlVeryEasy ? std::list<Rules>{} : std::list<Rules>{ruleSingles}));
         EXPECT_EQ(board.getPhase() * 10 + board.getLevel(), 30 + level);
         EXPECT_LE(board.getAttempt(), 14);
-        EXPECT_EQ(observer.take(), "cellsChanged 81\n");
         for (int i = 0; i < 81; ++i) {  // without player rules empty cells keep nine candidates
             EXPECT_EQ(board.cell(i)->origin(), board.cell(i)->value() ? originGiven : 0);
             EXPECT_TRUE(level != lvlVeryEasy || candidateCount(board.cell(i)) == (board.cell(i)->value() ? 1 : 9)) << i;
@@ -59,19 +53,17 @@ TEST_F(Game, LevelsStartAGameAndReplaceTheLastOne) {
     EXPECT_EQ(board.getLevel(), lvlHard);  // the game stays
     ASSERT_TRUE(board.generate(lvlCompleted));
     EXPECT_TRUE(board.isComplete() && filledCount(board) == 81);
-    // A new game replaces the old one entirely, undone moves included.
-    ASSERT_TRUE(board.generate(lvlEasy) && board.makeMove() && board.retract());
-    EXPECT_EQ(board.undoneSize(), 1u);
-    observer.take();
-    ASSERT_TRUE(board.generate(lvlUserEdit));  // always succeeds, empty
+    // A new game replaces the old one entirely, undone moves included; User Edit always succeeds, empty.
+    ASSERT_TRUE(board.generate(lvlEasy) && board.makeMove() && board.retract() && board.undoneSize() == 1);
+    ASSERT_TRUE(start(lvlUserEdit));
     EXPECT_TRUE(board.undoneSize() == 0 && board.historySize() == 1 && board.getPhase() == 3 && filledCount(board) == 0);
     EXPECT_TRUE(board.solution().forbidden && board.solutionValue(0) == 0);
-    EXPECT_EQ(observer.take(), "cellsChanged 81\n");
     EXPECT_TRUE(board.generate(lvlHard) && !board.solution().forbidden);
 }
 
 TEST_F(Game, ValuesAndPencilMarksAreCheckedAgainstTheSolution) {
-    start(lvlEasy, ruleSinglesRowOnly);  // rows only: empty cells keep several candidates
+    testing_support::seedRandom(1234);
+    ASSERT_TRUE(start(lvlEasy, {ruleSinglesRowOnly}));  // rows only: empty cells keep several candidates
     int i = 0;
     while (board.cell(i)->value() || candidateCount(board.cell(i)) < 3) ++i;
     const int v = board.solutionValue(i), wrong = v % 9 + 1;
@@ -98,19 +90,18 @@ TEST_F(Game, ValuesAndPencilMarksAreCheckedAgainstTheSolution) {
 }
 
 TEST_F(Game, MakeMoveSearchesAMoveAndCompletesAnEnteredGrid) {
-    start(lvlUserEdit, ruleSingles);
+    testing_support::seedRandom(31);
+    ASSERT_TRUE(start(lvlCompleted));
+    const auto grid = values(board);
     // After a hundred guesses every make move places its first guess, reports and stops.
-    std::string bytes = testing_support::saved(board);
+    std::string bytes = (start(lvlUserEdit, {ruleSingles}), testing_support::saved(board));
     bytes[20] = 100;  // the guess count
     ASSERT_TRUE(testing_support::load(board, bytes));
     observer.take();
     EXPECT_FALSE(board.makeMove() || board.makeMove());
     EXPECT_TRUE(filledCount(board) == 2 && board.solution().guessCount == 102);
     EXPECT_EQ(observer.take(), "noMoreMoves 81\nnoMoreMoves 81\n");
-    testing_support::seedRandom(31);
-    ASSERT_TRUE(board.generate(lvlCompleted));
-    const auto grid = values(board);
-    ASSERT_TRUE(board.generate(lvlUserEdit));
+    ASSERT_TRUE(start(lvlUserEdit));
     // On the first position candidates go in place, and a cell keeps its last one.
     for (int v = 1; v <= 9; ++v) ASSERT_TRUE(v == grid[80] || board.togglePotential(80, v));
     EXPECT_FALSE(board.togglePotential(80, grid[80]) || board.retract());

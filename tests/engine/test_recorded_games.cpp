@@ -1,7 +1,5 @@
-// Recorded games: fixed seeds and calls must give the very same games, move for move, digested (FNV-1a 64) through
-// every cell's value, origin and candidates, the stored solution and the saved-game bytes. The digests were taken
-// before the rules were rewritten on bit masks; any change in the games, in the order of rand() calls or in what a
-// rule removes shows up here.
+// Fixed seeds and calls give the very same games, move for move, digested (FNV-1a 64) through every cell's value, origin,
+// candidates and solution and the saved bytes: any change in the games, the order of rand() calls or a rule shows here.
 #include <gtest/gtest.h>
 
 #include "BoardTestSupport.h"
@@ -21,8 +19,7 @@ struct Digest {
             add(c ? static_cast<uint64_t>(c->value() * 16 + c->origin()) : 999);
             unsigned mask = 0;
             for (int v = 1; v <= 9 && c; ++v) mask |= c->isPotential(v) ? 1u << v : 0;
-            add(mask);
-            add(static_cast<uint64_t>(b.solutionValue(i)));
+            add(mask), add(static_cast<uint64_t>(b.solutionValue(i)));
         }
         for (char ch : testing_support::saved(b)) add(static_cast<unsigned char>(ch));
         add(b.historySize() * 1000 + static_cast<uint64_t>(b.getAttempt()));
@@ -48,8 +45,7 @@ uint64_t games(int level) {
             }
             for (int m = 0; m < 4; ++m) d.add(board.makeMove());
         } else {
-            d.add(board.generate(level));
-            d.add(board);
+            d.add(board.generate(level)), d.add(board);
             for (int m = 0; m < 3; ++m) d.add(board.makeMove());
         }
         d.add(board);

@@ -22,12 +22,9 @@ namespace {
 BoardSnapshot position(const std::string& text) {
     BoardSnapshot s;
     forTokens(text, [&](int i, char op, const std::list<int>& d) {
-        if (i < 0)
-            for (auto& c : s.cells) c.setModified(false);
-        else if (op == ':')
-            s.cells[i].keepOnlyPotentials(d);
-        else if (op == '!' || op == '~')
-            s.cells[i].setModified(op == '!');
+        for (auto& c : s.cells) c.setModified(c.isModified() && i >= 0);
+        if (op == ':') s.cells[i].keepOnlyPotentials(d);
+        if (op == '!' || op == '~') s.cells[i].setModified(op == '!');
         for (int v : d) {
             if (op == '-') s.cells[i].removePotential(v, true);
             if (op == '*') s.cells[i].setSinglePotential(v);
@@ -50,14 +47,12 @@ std::string mismatches(const BoardSnapshot& s, const std::string& text) {
 }
 
 // The pass's result: "changed", "unchanged" or the contradiction it met.
-std::string run(BoardSnapshot& s, const std::list<Rules>& rules) {
-    try {
-        return RuleSolver(rules).applyAll(s) ? "changed" : "unchanged";
-    } catch (ExCellConflict& e) {
-        return e.kind == 3 ? "emptied " + std::to_string(e.cellIndex) : e.describe();
-    } catch (ExTupleConflict& e) {
-        return e.describe();
-    }
+std::string run(BoardSnapshot& s, const std::list<Rules>& rules) try {
+    return RuleSolver(rules).applyAll(s) ? "changed" : "unchanged";
+} catch (ExCellConflict& e) {
+    return e.kind == 3 ? "emptied " + std::to_string(e.cellIndex) : e.describe();
+} catch (ExTupleConflict& e) {
+    return e.describe();
 }
 
 // A position, the rules run on it, what the pass returns, what the cells keep afterwards, and (for one rule) the first

@@ -14,7 +14,7 @@ using testing_support::saved;
 namespace {
 
 std::string withInt(std::string bytes, size_t offset, int value) {
-    for (int k = 0; k < 4; ++k) bytes[offset + k] = static_cast<char>((static_cast<uint32_t>(value) >> (8 * k)) & 0xFF);
+    for (int k = 0; k < 4; ++k) bytes[offset + k] = char(uint32_t(value) >> (8 * k));
     return bytes;
 }
 
@@ -60,20 +60,16 @@ TEST(SavedGames, RefusedFilesLeaveTheGameUntouched) {
 
 // Every int of a saved game that meets arithmetic, set to the values at the edges of its range and of int itself.
 // A game that loads must then survive a run of play; the sanitizer build turns any overflow into a failure.
-class ExtremeInts : public testing::TestWithParam<std::tuple<int, int>> {
-protected:
-    // A User Edit game of three positions and one retracted: counters at 16 and 20, no solution, history at 26.
-    static std::string userEditGame() {
+class ExtremeInts : public testing::TestWithParam<std::tuple<int, int>> {};
+
+TEST_P(ExtremeInts, RefusedOrPlayable) {
+    static const std::string good = [] {  // User Edit, three positions, one retracted; history at 26
         testing_support::seedRandom(77);
         Board board(nullptr);
         board.generate(lvlUserEdit);
         board.setValue(0, 5), board.setValue(40, 3), board.makeMove(), board.retract();
         return saved(board);
-    }
-};
-
-TEST_P(ExtremeInts, RefusedOrPlayable) {
-    static const std::string good = userEditGame();
+    }();
     const auto [offset, value] = GetParam();
     const int undone = 26 + 4 + 1790 * 3, cell40 = 30 + 1790 * 2 + 22 * 40;
     const int where = offset == 1 ? undone : offset == 2 ? cell40 : offset == 3 ? undone - 8 : offset;
@@ -84,18 +80,14 @@ TEST_P(ExtremeInts, RefusedOrPlayable) {
         EXPECT_EQ(t.take(), "loadFailed 2 -1\n");
         return;
     }
-    const int guesses = offset == 20 ? value : 0;
     for (int move = 0; move < 3; ++move) {
         const size_t before = board.historySize();
         t.take();
         const bool moved = board.makeMove();
         // Past 100 guesses every make move still places its first guess, then reports that there is no move (the
         // first one brings back the retracted position).
-        if (guesses >= 100 && move > 0) {
-            EXPECT_FALSE(moved);
-            EXPECT_EQ(board.historySize(), before + 1);
-            EXPECT_EQ(t.text.substr(t.text.rfind('\n', t.text.size() - 2) + 1), "noMoreMoves 81\n");
-        }
+        EXPECT_TRUE(offset != 20 || value < 100 || move == 0 || (!moved && board.historySize() == before + 1 &&
+                    t.text.substr(t.text.rfind('\n', t.text.size() - 2) + 1) == "noMoreMoves 81\n")) << t.text;
     }
     board.retract(), board.togglePotential(80, 9), board.setValue(79, 1), board.applyPencilMarksRule(ruleSingles);
     EXPECT_EQ(t.problem, "");
@@ -103,9 +95,7 @@ TEST_P(ExtremeInts, RefusedOrPlayable) {
     Board twin(nullptr);
     ASSERT_TRUE(load(twin, bytes));
     EXPECT_EQ(saved(twin), bytes);
-    if (offset == 16 && value == INT_MAX) {
-        EXPECT_EQ(bytes.substr(16, 4), withInt(good, 16, INT_MAX).substr(16, 4));
-    }
+    EXPECT_TRUE(offset != 16 || value != INT_MAX || bytes.substr(16, 4) == withInt(good, 16, INT_MAX).substr(16, 4));
 }
 
 // Offsets 1, 2 and 3 stand for the undone count, cell 40's index and the newest position's guess index; negative
