@@ -58,6 +58,7 @@ TEST_F(Game, LevelsStartAGameAndReplaceTheLastOne) {
     ASSERT_TRUE(start(lvlUserEdit));
     EXPECT_TRUE(board.undoneSize() == 0 && board.historySize() == 1 && board.getPhase() == 3 && filledCount(board) == 0);
     EXPECT_TRUE(board.solution().forbidden && board.solutionValue(0) == 0);
+    EXPECT_TRUE(board.setValue(0, 1) && board.retract() && board.historySize() == 1 && board.undoneSize() == 1);
     EXPECT_TRUE(board.generate(lvlHard) && !board.solution().forbidden);
 }
 

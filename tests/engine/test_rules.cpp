@@ -157,6 +157,7 @@ TEST_P(RuleCases, ClearWhatTheRuleAllows) {
     // The rule's steps, reported one at a time and taken until none is left, add up to its pass.
     Step step;
     bool found = findRuleStep(c.rules.front(), steps, step);
+    EXPECT_EQ(found, c.result == "changed");
     if (!c.step.empty()) { EXPECT_EQ(found ? testing_support::describe(step) : "no step", c.step); }
     for (int n = 0; n < 200 && found; ++n, found = findRuleStep(c.rules.front(), steps, step)) applyStep(step, steps);
     for (int i = 0; i < 81; ++i) EXPECT_EQ(steps.cells[i].mask(), s.cells[i].mask()) << "cell " << i;
