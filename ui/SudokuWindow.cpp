@@ -16,6 +16,7 @@
 #include <sstream>
 
 #include "AboutDialog.h"
+#include "Announcer.h"
 #include "ActionIcons.h"
 #include "TileAccessible.h"
 #include "ui_SudokuWindow.h"
@@ -81,6 +82,7 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setFixedSize(609, 709);
+    announcer = new Announcer(this, tiles);
 
     deferredTimer.setSingleShot(true);
     deferredTimer.setInterval(0);
@@ -269,9 +271,10 @@ void SudokuWindow::loadFailed(int expectedVersion, int actualVersion) {
                         .arg(actualVersion));
 }
 
-void SudokuWindow::valueRefused(int index, int) {
+void SudokuWindow::valueRefused(int index, int value) {
     if (index < 0 || index > 80) return;
     BusyScope scope(busy);
+    announcer->valueRefused(*board, index, value);
     playRefusalSound();
     tiles[index]->rejectValue();
 }
@@ -279,6 +282,7 @@ void SudokuWindow::valueRefused(int index, int) {
 void SudokuWindow::potentialRefused(int index, int value) {
     if (index < 0 || index > 80) return;
     BusyScope scope(busy);
+    announcer->candidateRefused(value);
     playRefusalSound();
     tiles[index]->flashPotential(value);
 }
@@ -339,7 +343,8 @@ Tile::CaretMode SudokuWindow::hideCaretIfAny() {
 
 void SudokuWindow::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
-    const bool board = key == Qt::Key_Escape || key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool board = key == Qt::Key_Escape || key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter ||
+                       Announcer::isReadingKey(key);
     if (!board || (event->modifiers() & ~Qt::KeypadModifier)) return QMainWindow::keyPressEvent(event);
     if (mustDefer())
         defer([this, key] { boardKey(key); });
@@ -354,7 +359,9 @@ void SudokuWindow::keyReleaseEvent(QKeyEvent* event) {
 }
 
 void SudokuWindow::boardKey(int key) {
-    if (!board || busy || caretIndex == -1) return;
+    if (!board || busy) return;
+    if (Announcer::isReadingKey(key)) return announcer->read(key, board, caretIndex >= 0 ? caretIndex : lastCaretIndex);
+    if (caretIndex == -1) return;
     Tile* tile = tiles[caretIndex];
     if (key == Qt::Key_Escape) {
         hideCaretIfAny();
@@ -427,7 +434,9 @@ void SudokuWindow::setLevelLabel(int level) {
 
 void SudokuWindow::newGameCommand(int level) {
     if (busy) return;
-    if (newGameStep(level, false)) setLevelLabel(level);
+    if (!newGameStep(level, false)) return;
+    setLevelLabel(level);
+    announcer->gameStarted(board, levelText(), false);
 }
 
 void SudokuWindow::newGameCompleted() { newGameCommand(eng::lvlCompleted); }
@@ -441,6 +450,7 @@ void SudokuWindow::makeMove() {
     if (!board || busy) return;
     {
         BusyScope scope(busy);
+        Announcer::Watch watch(*announcer, board);
         markChanges = true;
         board->makeMove();
         markChanges = false;
@@ -451,6 +461,7 @@ void SudokuWindow::makeMove() {
 void SudokuWindow::retractMove() {
     if (!board || busy) return;
     BusyScope scope(busy);
+    Announcer::Watch watch(*announcer, board);
     board->retract();
 }
 
@@ -501,6 +512,7 @@ void SudokuWindow::enterValue(int index, int value) {
     if (busy) return redrawTile(index);
     {
         BusyScope scope(busy);
+        Announcer::Watch watch(*announcer, board, index);
         markChanges = true;
         board->setValue(index, value);
         markChanges = false;
@@ -518,6 +530,7 @@ void SudokuWindow::tilePotentialsEdited(int liniarAddress, int valueToToggle) {
     if (busy) return redrawTile(liniarAddress);
     // The redrawn tiles take the highlight again in updateTiles.
     BusyScope scope(busy);
+    Announcer::Watch watch(*announcer, board, liniarAddress, valueToToggle);
     board->togglePotential(liniarAddress, valueToToggle);
 }
 
@@ -673,6 +686,7 @@ void SudokuWindow::openGame() {
             board = next;
             lastCaretIndex = -1;
             showWholeBoard();
+            announcer->gameStarted(board, tr(levelLabel(board->getLevel())), true);
         } else {
             delete next;
         }
