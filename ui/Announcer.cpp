@@ -164,7 +164,8 @@ void Announcer::read(int key, const eng::Board* board, int index) {
             //: %1 how many of the digit %2 are still to be placed
             if (placed < 9) left << tr("%1 of digit %2").arg(9 - placed).arg(v);
         }
-        say(left.isEmpty() ? tr("Every digit is placed") : tr("Still to place: %1").arg(left.join(QLatin1String(", "))));
+        const QString list = left.join(QLatin1String(", "));
+        say(left.isEmpty() ? tr("Every digit is placed") : tr("Still to place: %1").arg(list));
         return;
     }
     const int at = index >= 0 && index < 81 ? index : 0;

@@ -182,6 +182,8 @@ else:
     if choice:
         fail("no candidate could be toggled")
     say("no cell with two candidates is left below: no pencil mark toggled")
+if [o.name for o in walk(app) if re.fullmatch(r"\d", o.name or "")]:
+    fail("a bare digit is read after the moves")
 app_process.terminate()
 app_process.wait(30)
 report.close()
