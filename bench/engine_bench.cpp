@@ -5,9 +5,13 @@
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
+#include <fstream>
+#include <string>
 #include <vector>
 
 #include "Board.h"
+#include "ExactSolver.h"
+#include "PuzzleText.h"
 #include "RuleSolver.h"
 
 namespace {
@@ -102,6 +106,36 @@ void BM_UserEditMakeMove(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_UserEditMakeMove)->Unit(benchmark::kMicrosecond);
+
+// Checking a pasted puzzle: the exact solver counts the solutions (up to two)
+// of each published hard puzzle in turn; median and p99 over all the checks.
+// The grading of the same puzzles by the level presets is timed beside it.
+void BM_ExactSolverPublished(benchmark::State& state) {
+    std::vector<eng::Grid> puzzles;
+    std::ifstream in(SUDOKU_PUZZLES);
+    eng::Grid g{};
+    for (std::string line; std::getline(in, line);)
+        if (eng::readPuzzle(line, g)) puzzles.push_back(g);
+    const bool grading = state.range(0) == 1;
+    std::vector<double> millis;
+    size_t next = 0;
+    int notUnique = 0;
+    for (auto _ : state) {
+        const eng::Grid& puzzle = puzzles[next++ % puzzles.size()];
+        const auto start = std::chrono::steady_clock::now();
+        if (grading)
+            benchmark::DoNotOptimize(eng::Board::grade(puzzle));
+        else
+            notUnique += eng::ExactSolver::countSolutions(puzzle, &g, 2) != 1;
+        millis.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+    }
+    state.counters["puzzles"] = static_cast<double>(puzzles.size());
+    state.counters["median_ms"] = percentile(millis, 0.5);
+    state.counters["p99_ms"] = percentile(millis, 0.99);
+    state.counters["max_ms"] = percentile(millis, 1.0);
+    state.counters["not_unique"] = notUnique;
+}
+BENCHMARK(BM_ExactSolverPublished)->Arg(0)->Arg(1)->Iterations(2300)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

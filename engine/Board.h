@@ -11,6 +11,7 @@
 #include "BoardSnapshot.h"
 #include "Cell.h"
 #include "Conflicts.h"
+#include "Grid.h"
 #include "MasterSolution.h"
 #include "Rules.h"
 
@@ -28,6 +29,10 @@ enum Level : int {
     lvlHard = 4,
     lvlUserEdit = 5,
 };
+
+// A grade beyond the levels: puzzles that even the Hard preset cannot solve.
+// A board holds such a game at lvlHard.
+constexpr int gradeExpert = 6;
 
 // Phases of a board: generation fills a solution, then reveals givens; a game
 // is played in the last phase, the only one that reports cells.
@@ -67,6 +72,15 @@ public:
     bool isComplete();
     void setPencilMarksRules(std::list<Rules> rules);
     void applyPencilMarksRule(Rules rule);
+    // Starts a game on givens whose only solution is `solution`, as generation
+    // would end one: the givens with origin 1, the solution stored, so that a
+    // wrong value is refused, the level the givens' grade (lvlHard for
+    // gradeExpert), phase playing, the cells reported. False, and the board
+    // unchanged, when the solution is no valid full grid that keeps the givens.
+    bool startGame(const Grid& givens, const Grid& solution);
+    // The easiest level whose reveal preset solves the givens: lvlCompleted for
+    // a full grid, lvlVeryEasy to lvlHard, or gradeExpert beyond them.
+    static int grade(const Grid& givens);
 
     // Read-only queries used by tests, tools and the user interface.
     int getLevel() const { return level; }

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>Die Zwischenablage enthält kein Rätsel.
+Ein Rätsel hat 81 Felder: eine Ziffer für eine Vorgabe, 0 oder . für ein leeres Feld.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Dieses Rätsel ist nicht spielbar:
+eine Zeile, Spalte oder ein Block enthält eine Ziffer doppelt.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Dieses Rätsel hat keine Lösung.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Dieses Rätsel hat mehr als eine Lösung.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Rätsel eingefügt.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Rätsel kopiert.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -336,6 +367,10 @@ Fortfahren?</translation>
     <message>
         <source>Failed to print.</source>
         <translation>Drucken fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>Stufe: Experte</translation>
     </message>
 </context>
 <context>
@@ -551,6 +586,22 @@ Fortfahren?</translation>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Zurück &amp; Vor</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>Rätsel &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Das Spielfeld als 81 Zeichen kopieren</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>Rätsel e&amp;infügen</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Das Rätsel aus der Zwischenablage spielen</translation>
     </message>
 </context>
 <context>

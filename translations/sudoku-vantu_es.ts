@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>El portapapeles no contiene ningún sudoku.
+Un sudoku tiene 81 casillas: una cifra para cada pista, 0 o . para una casilla vacía.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Este sudoku no se puede jugar:
+una fila, columna o cuadro repite una cifra.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Este sudoku no tiene solución.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Este sudoku tiene más de una solución.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Sudoku pegado.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Sudoku copiado.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -336,6 +367,10 @@ Continue?</source>
     <message>
         <source>Failed to print.</source>
         <translation>No se pudo imprimir.</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>dificultad: Experto</translation>
     </message>
 </context>
 <context>
@@ -551,6 +586,22 @@ Continue?</source>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Atrás &amp; adelante</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Copiar sudoku</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Copiar el tablero como 81 caracteres</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>P&amp;egar sudoku</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Jugar el sudoku del portapapeles</translation>
     </message>
 </context>
 <context>

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>Le presse-papiers ne contient aucune grille.
+Une grille compte 81 cases : un chiffre pour une case donnée, 0 ou . pour une case vide.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Cette grille est injouable :
+une ligne, une colonne ou un carré contient deux fois le même chiffre.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Cette grille n&apos;a aucune solution.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Cette grille a plus d&apos;une solution.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Grille collée.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Grille copiée.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -336,6 +367,10 @@ Continuer ?</translation>
     <message>
         <source>Failed to print.</source>
         <translation>L’impression a échoué.</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>niveau : Expert</translation>
     </message>
 </context>
 <context>
@@ -551,6 +586,22 @@ Continuer ?</translation>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Arrière &amp; avant</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Copier la grille</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Copier la grille sous forme de 81 caractères</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>Co&amp;ller une grille</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Jouer la grille du presse-papiers</translation>
     </message>
 </context>
 <context>

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>Gli appunti non contengono uno schema.
+Uno schema ha 81 caselle: una cifra per ogni numero dato, 0 o . per una casella vuota.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Questo schema non si può giocare:
+una riga, colonna o riquadro contiene due volte la stessa cifra.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Questo schema non ha soluzione.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Questo schema ha più di una soluzione.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Schema incollato.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Schema copiato.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -336,6 +367,10 @@ Continuare?</translation>
     <message>
         <source>Failed to print.</source>
         <translation>Stampa non riuscita.</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>livello: Esperto</translation>
     </message>
 </context>
 <context>
@@ -551,6 +586,22 @@ Continuare?</translation>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Indietro &amp; avanti</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Copia schema</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Copia la griglia come 81 caratteri</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>&amp;Incolla schema</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Gioca lo schema presente negli appunti</translation>
     </message>
 </context>
 <context>

@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>クリップボードに問題がありません。
+問題は 81 マスです: ヒントは数字、空きマスは 0 または . で表します。</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>この問題は遊べません:
+行・列・ブロックのどこかに同じ数字が 2 つあります。</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>この問題には解がありません。</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>この問題には複数の解があります。</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>問題を貼り付けました。</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>問題をコピーしました。</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -336,6 +367,10 @@ Continue?</source>
     <message>
         <source>Failed to print.</source>
         <translation>印刷できませんでした。</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>難易度: エキスパート</translation>
     </message>
 </context>
 <context>
@@ -551,6 +586,22 @@ Continue?</source>
     <message>
         <source>Back &amp; Forward</source>
         <translation>戻る &amp; 進む</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>問題をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>盤面を 81 文字としてコピー</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>問題を貼り付け(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>クリップボードの問題で遊ぶ</translation>
     </message>
 </context>
 <context>

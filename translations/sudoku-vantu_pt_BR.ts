@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>A área de transferência não contém um sudoku.
+Um sudoku tem 81 casas: um algarismo para cada casa dada, 0 ou . para uma casa vazia.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Este sudoku não pode ser jogado:
+uma linha, coluna ou quadrado repete um algarismo.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Este sudoku não tem solução.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Este sudoku tem mais de uma solução.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Sudoku colado.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Sudoku copiado.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -336,6 +367,10 @@ Continuar?</translation>
     <message>
         <source>Failed to print.</source>
         <translation>Falha ao imprimir.</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>dificuldade: especialista</translation>
     </message>
 </context>
 <context>
@@ -551,6 +586,22 @@ Continuar?</translation>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Voltar &amp; avançar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Copiar sudoku</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Copiar o tabuleiro como 81 caracteres</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>Co&amp;lar sudoku</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Jogar o sudoku da área de transferência</translation>
     </message>
 </context>
 <context>

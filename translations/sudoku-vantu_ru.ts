@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>В буфере обмена нет задачи.
+Задача — это 81 клетка: цифра для заданной клетки, 0 или . для пустой.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>В эту задачу нельзя играть:
+в строке, столбце или квадрате цифра повторяется.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>У этой задачи нет решения.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>У этой задачи больше одного решения.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Задача вставлена.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Задача скопирована.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -336,6 +367,10 @@ Continue?</source>
     <message>
         <source>Failed to print.</source>
         <translation>Не удалось напечатать.</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>сложность: эксперт</translation>
     </message>
 </context>
 <context>
@@ -551,6 +586,22 @@ Continue?</source>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Назад &amp; вперёд</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Копировать задачу</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Скопировать поле как 81 символ</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>&amp;Вставить задачу</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Играть задачу из буфера обмена</translation>
     </message>
 </context>
 <context>

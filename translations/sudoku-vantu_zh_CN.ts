@@ -254,6 +254,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>剪贴板中没有题目。
+题目由 81 个格子组成：已知数用数字表示，空格用 0 或 . 表示。</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>无法进行这道题目：
+某一行、列或宫中有重复的数字。</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>这道题目无解。</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>这道题目有不止一个解。</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>已粘贴题目。</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>已复制题目。</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -336,6 +367,10 @@ Continue?</source>
     <message>
         <source>Failed to print.</source>
         <translation>打印失败。</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>难度：专家</translation>
     </message>
 </context>
 <context>
@@ -551,6 +586,22 @@ Continue?</source>
     <message>
         <source>Back &amp; Forward</source>
         <translation>后退 &amp; 前进</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>复制题目(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>将盘面复制为 81 个字符</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>粘贴题目(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>玩剪贴板中的题目</translation>
     </message>
 </context>
 <context>

@@ -18,6 +18,7 @@
 #include "AboutDialog.h"
 #include "Announcer.h"
 #include "ActionIcons.h"
+#include "PuzzleClipboard.h"
 #include "TileAccessible.h"
 #include "ui_SudokuWindow.h"
 
@@ -34,6 +35,7 @@ const char* levelLabel(int level) {
     case eng::lvlEasy: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Easy");
     case eng::lvlMedium: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Medium");
     case eng::lvlHard: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Hard");
+    case eng::gradeExpert: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Expert");
     default: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: user edit");
     }
 }
@@ -92,6 +94,22 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     // can begin, and a menu used from the keyboard gives the keys back to it.
     // Like the tiles, it takes no focus by Tab or click: Tab leaves the caret's keys where they are.
     ui->boardWidget->setFocus(Qt::OtherFocusReason);
+
+    // A pasted puzzle becomes the game as a new game does, on a new board.
+    puzzleClipboard = new PuzzleClipboard(this, [this](const eng::Grid& givens, const eng::Grid& solution, int label) {
+        hideCaretIfAny();
+        lastCaretIndex = -1;
+        replaceBoard();
+        board->startGame(givens, solution);
+        setLevelLabel(label);
+    });
+    connect(puzzleClipboard, &PuzzleClipboard::announce, announcer, &Announcer::say);
+    connect(ui->actionCopyPuzzle, &QAction::triggered, this, [this] { puzzleClipboard->copy(board); });
+    connect(ui->actionPastePuzzle, &QAction::triggered, this, [this] {
+        if (busy) return;
+        BusyScope scope(busy);
+        puzzleClipboard->paste(board != nullptr);
+    });
 
     startFirstGame(firstGame.get());
     setLevelLabel(eng::lvlMedium);
@@ -426,6 +444,7 @@ void SudokuWindow::replaceBoard() {
 }
 
 void SudokuWindow::setLevelLabel(int level) {
+    shownLevel = level;
     ui->txtLevel->setText(tr(levelLabel(level)));
     // A translated label may need more than the form's width; the board leaves room to its right.
     const int needed = ui->txtLevel->sizeHint().width();

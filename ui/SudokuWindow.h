@@ -14,6 +14,7 @@
 #include "Tile.h"
 
 class Announcer;
+class PuzzleClipboard;
 class QPainter;
 class QPrinter;
 class QSoundEffect;
@@ -51,6 +52,9 @@ public:
     PrintingInfo& printingOptions();
     PencilMarksOptions& pencilMarksDialog();
     QString levelText() const;
+    // The level label's state: a level 0-5, or eng::gradeExpert.
+    void setLevelLabel(int level);
+    int labelLevel() const { return shownLevel; }
     // A4 portrait, full page, no margins: how every print starts.
     static void preparePrinter(QPrinter& printer);
     // Also while input held back meanwhile is still to be carried out.
@@ -126,6 +130,8 @@ private:
     bool replaying = false;
     const QEvent* replayedKey = nullptr;
     FileNameProvider fileNameProvider;
+    PuzzleClipboard* puzzleClipboard = nullptr;
+    int shownLevel = eng::lvlMedium;
 
     class BusyScope {
     public:
@@ -161,7 +167,6 @@ private:
     void playRefusalSound();
     void showMessage(int icon, const QString& text);
     QString askFileName(FileRequest request);
-    void setLevelLabel(int level);
     void defer(std::function<void()> command);
     bool mustDefer() const { return busy > 0 || (!deferred.empty() && !replaying); }
     void runDeferred();
