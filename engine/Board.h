@@ -6,6 +6,7 @@
 #include <deque>
 #include <list>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "BoardSnapshot.h"
@@ -70,6 +71,13 @@ public:
     bool makeMove();
     bool retract();
     bool isComplete();
+    // A hint carried out: places a value as make move places one (origin 3, one
+    // history entry): the solution's digit in a generated game, in User Edit a
+    // value the consistency check accepts.
+    bool placeMove(int index, int value);
+    // Removes pencil marks (cell, value) as the player's toggles remove them,
+    // all in one change; false, with nothing changed, when any one would be refused.
+    bool removePotentials(const std::vector<std::pair<int, int>>& marks);
     void setPencilMarksRules(std::list<Rules> rules);
     void applyPencilMarksRule(Rules rule);
     // Starts a game on givens whose only solution is `solution`, as generation

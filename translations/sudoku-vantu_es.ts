@@ -100,6 +100,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>la fila %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>la columna %1</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>la caja %1</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>fila %1, columna %2</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>columnas %1</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>filas %1</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>fila %1, columnas %2</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>columna %1, filas %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>Última casilla vacía</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>Único oculto</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>Único desnudo</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Único</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>Candidatos bloqueados</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>Trío desnudo</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>Pareja desnuda</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>Cuarteto desnudo</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>Pareja oculta</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>Trío oculto</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>Cuarteto oculto</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>la casilla %1 contiene %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>en %2, el %1 solo está en %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>en %1, %2 solo pueden ir en las casillas %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>en %1, las casillas %2 solo pueden contener %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>la casilla %1 es la única vacía en %2, así que contiene %3</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>en %1, solo la casilla %2 puede contener %3</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>la casilla %1 solo puede contener %2</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>así que esas casillas solo conservan %1</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>así que %1 se elimina de las casillas %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>así que la casilla %1 es el único lugar que queda para el %2 en %3</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>así que la casilla %1 solo puede contener %2</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>El tablero está completo: no queda nada por indicar.</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>El tablero está vacío: introduzca primero un sudoku o use Hacer movimiento.</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>Ninguna regla encuentra aquí un paso siguiente. Hacer movimiento puede colocar un valor.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>El tablero se contradice: %1 contiene el %2 dos veces.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>El tablero se contradice: %1 no tiene sitio para el %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>El tablero se contradice: la casilla %1 no tiene ningún candidato.</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>No se pudo aplicar la pista.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -602,6 +773,14 @@ Continue?</source>
     <message>
         <source>Play the puzzle on the clipboard</source>
         <translation>Jugar el sudoku del portapapeles</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Pista</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>Muestra el siguiente paso; púlselo de nuevo para aplicarlo</translation>
     </message>
 </context>
 <context>

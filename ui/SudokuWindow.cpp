@@ -18,6 +18,7 @@
 #include "AboutDialog.h"
 #include "Announcer.h"
 #include "ActionIcons.h"
+#include "HintController.h"
 #include "PuzzleClipboard.h"
 #include "TileAccessible.h"
 #include "ui_SudokuWindow.h"
@@ -80,11 +81,24 @@ SudokuWindow::SudokuWindow(QWidget* parent)
         connect(tile, &Tile::potentialsEdited, this, &SudokuWindow::tilePotentialsEdited);
         connect(tile, &Tile::moveCaret, this, &SudokuWindow::tileMoveCaret);
     }
+    announcer = new Announcer(this, tiles);
+    // Game -> Hint: a hint carried out changes the board as Make Move does.
+    auto* hints = new HintController(this, ui->actionHint, [this](const std::function<void()>& change) {
+        if (!board || busy) return;
+        {
+            BusyScope scope(busy);
+            Announcer::Watch watch(*announcer, board);
+            markChanges = true;
+            change();
+            markChanges = false;
+        }
+        if (board->isComplete()) celebrate();
+    });
+    connect(hints, &HintController::announce, announcer, &Announcer::say);
     // The window is as large as its board and cannot be resized or maximised.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setFixedSize(609, 709);
-    announcer = new Announcer(this, tiles);
 
     deferredTimer.setSingleShot(true);
     deferredTimer.setInterval(0);
