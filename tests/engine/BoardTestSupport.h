@@ -88,8 +88,8 @@ inline std::string join(const std::vector<int>& v) {
 
 // A step as the tests write it: "technique unit digits basis>targets", then "cell=value" for a placement.
 inline std::string describe(const eng::Step& s) {
-    static const char* const names[] = {"none",    "lastEmptyCell", "hiddenSingle", "nakedSingle",  "single",
-                                        "pointing", "claiming",      "nakedSubset",  "hiddenSubset", "transitiveDoubles"};
+    static const char* const names[] = {"none",     "lastEmptyCell", "hiddenSingle", "nakedSingle",  "single",
+                                        "pointing", "claiming", "nakedSubset", "hiddenSubset", "transitiveDoubles"};
     const std::string out = std::string(names[int(s.technique)]) + ' ' + std::to_string(s.unit) + ' ' + join(s.digits) +
                             ' ' + join(s.basis) + '>' + join(s.targets());
     return s.places() ? out + ' ' + std::to_string(s.cell) + '=' + std::to_string(s.value) : out;

@@ -31,9 +31,10 @@ Position grid(const std::string& text) {
 // What a hint says: its step, or why there is none (a cell emptied, a digit twice or nowhere in a unit).
 std::string said(const Hint& h) {
     const char* const conflicts[] = {"cell emptied", "digit twice", "digit nowhere"};
-    return h.outcome == Hint::found ? testing_support::describe(h.step)
-           : h.outcome != Hint::contradiction ? std::to_string(h.outcome)
-           : conflicts[h.conflict] + (" " + std::to_string(h.unit)) + ' ' + std::to_string(h.cell) + ' ' + std::to_string(h.digit);
+    if (h.outcome != Hint::contradiction)
+        return h.outcome == Hint::found ? testing_support::describe(h.step) : std::to_string(h.outcome);
+    return conflicts[h.conflict] + (' ' + std::to_string(h.unit)) + ' ' + std::to_string(h.cell) + ' ' +
+           std::to_string(h.digit);
 }
 
 // A position, whether the hint places values, and what the hint says.

@@ -1,5 +1,6 @@
-// Fixed seeds and calls give the very same games, move for move, digested (FNV-1a 64) through every cell's value, origin,
-// candidates and solution and the saved bytes: any change in the games, the order of rand() calls or a rule shows here.
+// Fixed seeds and calls give the very same games, move for move, digested (FNV-1a 64) through every cell's value,
+// origin, candidates and solution and the saved bytes: any change in the games, the order of rand() calls or a rule
+// shows here.
 #include <gtest/gtest.h>
 
 #include "BoardTestSupport.h"

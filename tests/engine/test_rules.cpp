@@ -16,9 +16,9 @@ using testing_support::forTokens;
 
 namespace {
 
-// Positions and expectations are written as tokens "CELLS op DIGITS". In a position: ':' keeps only DIGITS, '-' removes
-// them, '*' places the value (narrowed, then set), '=' sets the value alone, '!' and '~' set and clear the changed mark;
-// "clean" clears every mark. In an expectation: ':' is the exact candidate list, '+' has them all, '-' none.
+// Positions and expectations are tokens "CELLS op DIGITS". A position: ':' keeps only DIGITS, '-' removes them, '*'
+// places the value (narrowed, then set), '=' sets the value alone, '!' and '~' set and clear the changed mark, "clean"
+// clears every mark. An expectation: ':' is the exact candidate list, '+' has them all, '-' none.
 BoardSnapshot position(const std::string& text) {
     BoardSnapshot s;
     forTokens(text, [&](int i, char op, const std::list<int>& d) {
