@@ -33,6 +33,7 @@ class HintTest : public QObject {
         for (int i = 0; i < puzzle.size(); ++i)
             if (puzzle[i] >= '1' && puzzle[i] <= '9') QVERIFY(board().setValue(i, puzzle[i] - '0'));
     }
+
 private slots:
     void initTestCase() {
         window = shownWindow();

@@ -117,8 +117,8 @@ private slots:
             w.makeMove(), w.makeMove();
             QTRY_COMPARE_WITH_TIMEOUT(failed.size(), writes, 10000);
         }
-        // The second a second after the first at least; one message; the four moves made.
-        QVERIFY(failed[0] >= 0 && failed[1] >= 1000 && messages.count() == 1 && w.currentBoard()->historySize() == moves + 4);
+        QVERIFY(failed[0] >= 0 && failed[1] >= 1000);  // the second a second after the first at least
+        QVERIFY(messages.count() == 1 && w.currentBoard()->historySize() == moves + 4);
     }
 };
 
