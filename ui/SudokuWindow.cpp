@@ -264,7 +264,7 @@ void SudokuWindow::loadFailed(int expectedVersion, int actualVersion) {
         showMessage(QMessageBox::Warning, tr("This is not a valid .sud file"));
     else
         showMessage(QMessageBox::Warning,
-                    QString("Loaded file version is incompatible\n(expected version: %1 actual version: %2)")
+                    tr("Loaded file version is incompatible\n(expected version: %1 actual version: %2)")
                         .arg(expectedVersion)
                         .arg(actualVersion));
 }

@@ -179,11 +179,13 @@ Tile::~Tile() { delete ui; }
 
 // A new sheet on a polished widget makes Qt polish every widget below it twice,
 // hidden ones too: some 3 M instructions a tile, and a new game restyles about
-// 40 tiles. The tile's sheet is stored here without that; the tile and its
-// shown children are then polished once, parents first, as Qt would, and the
-// hidden labels when they are next shown (setShown). Qt 5 re-polishes when the
-// tile is marked polished, Qt 6 also when any child is: the marks of all of
-// them are cleared for the one call.
+// 40 tiles, 22-29 ms a new game that way against 6-9 ms with this (ui_bench,
+// new game shown). The tile's sheet is stored here without that, through
+// QWidget's private "polished" mark: the program's only use of Qt's private
+// API. The tile and its shown children are then polished once, parents first,
+// as Qt would, and the hidden labels when they are next shown (setShown). Qt 5
+// re-polishes when the tile is marked polished, Qt 6 also when any child is:
+// the marks of all of them are cleared for the one call.
 void Tile::setTileSheet(const QString& sheet) {
     if (styleSheet() == sheet) return;
     const QList<QWidget*> children = findChildren<QWidget*>();
