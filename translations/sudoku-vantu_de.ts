@@ -254,6 +254,12 @@ Fortfahren?</translation>
         <source>Failed to print.</source>
         <translation>Drucken fehlgeschlagen.</translation>
     </message>
+    <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>Die Version der geladenen Datei ist nicht kompatibel
+(erwartete Version: %1, tatsächliche Version: %2)</translation>
+    </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>

@@ -254,6 +254,12 @@ Continue?</source>
         <source>Failed to print.</source>
         <translation>No se pudo imprimir.</translation>
     </message>
+    <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>La versión del archivo cargado no es compatible
+(versión esperada: %1, versión real: %2)</translation>
+    </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>

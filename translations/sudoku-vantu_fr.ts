@@ -254,6 +254,12 @@ Continuer ?</translation>
         <source>Failed to print.</source>
         <translation>L’impression a échoué.</translation>
     </message>
+    <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>La version du fichier chargé est incompatible
+(version attendue : %1, version réelle : %2)</translation>
+    </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>

@@ -254,6 +254,12 @@ Continuare?</translation>
         <source>Failed to print.</source>
         <translation>Stampa non riuscita.</translation>
     </message>
+    <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>La versione del file caricato non è compatibile
+(versione prevista: %1, versione effettiva: %2)</translation>
+    </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>

@@ -254,6 +254,12 @@ Continue?</source>
         <source>Failed to print.</source>
         <translation>印刷できませんでした。</translation>
     </message>
+    <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>読み込んだファイルのバージョンに互換性がありません
+（必要なバージョン：%1、実際のバージョン：%2）</translation>
+    </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>

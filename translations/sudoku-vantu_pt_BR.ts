@@ -254,6 +254,12 @@ Continuar?</translation>
         <source>Failed to print.</source>
         <translation>Falha ao imprimir.</translation>
     </message>
+    <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>A versão do arquivo carregado é incompatível
+(versão esperada: %1, versão real: %2)</translation>
+    </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>

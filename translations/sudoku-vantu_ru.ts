@@ -254,6 +254,12 @@ Continue?</source>
         <source>Failed to print.</source>
         <translation>Не удалось напечатать.</translation>
     </message>
+    <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>Версия загруженного файла несовместима
+(ожидаемая версия: %1, фактическая версия: %2)</translation>
+    </message>
 </context>
 <context>
     <name>SudokuWindowClass</name>

@@ -22,7 +22,7 @@
 
 namespace {
 
-const char* const kTitle = "Sudoku Vantu";
+const char* const kTitle = "Sudoku Vantu";  // notr: the program's name, the same in every language
 const char* const kVersion = "1.0.4";
 constexpr int kCelebrationStepMs = 300;
 
