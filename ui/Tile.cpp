@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QHash>
 #include <QKeyEvent>
@@ -11,7 +12,7 @@
 #include <QPalette>
 #include <QPointer>
 #include <QStyle>
-#include <QThread>
+#include <QTimer>
 
 #include "ui_Tile.h"
 
@@ -361,17 +362,21 @@ void Tile::highlightValue(int newValue, int oldValue) {
 
 // Lets the window repaint, paints this tile at once and waits one step: a
 // change made just before is not always painted by the event processing alone
-// on a real display, and the player must see every step. Returns false when
-// the tile went away while events were processed, so the animation stops
-// touching it.
+// on a real display, and the player must see every step. The step is waited out
+// in an event loop, not asleep: a Wayland client whose thread sleeps answers no
+// frame callback, so its next frame may be held back or dropped (a blink step
+// missing from the screen), and its requests wait unsent. Returns false when
+// the tile went away meanwhile, so the animation stops touching it.
 bool Tile::pause() {
     QPointer<Tile> self(this);
     QCoreApplication::processEvents(QEventLoop::AllEvents);
     if (!self) return false;
     repaint();
     QGuiApplication::sync();  // hands the painted step to the display server
-    QThread::msleep(kAnimationStepMs);
-    return true;
+    QEventLoop step;
+    QTimer::singleShot(kAnimationStepMs, &step, &QEventLoop::quit);
+    step.exec();
+    return self;
 }
 
 // Re-entry: the animations process events, so clicks, keys and even another
