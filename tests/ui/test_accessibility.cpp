@@ -153,7 +153,8 @@ private slots:
         QVERIFY(cell(i)->text(QAccessible::Description).isEmpty());
     }
 
-    // Keys where they cannot act change nothing, the caret comes back where it left; keys during a refusal's blink or the celebration are not lost.
+    // Keys where they cannot act change nothing, the caret comes back where it left; keys during a refusal's blink
+    // or the celebration are not lost.
     void badInput_data() {
         QTest::addColumn<int>("level");
         QTest::addColumn<bool>("pencil");

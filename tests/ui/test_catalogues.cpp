@@ -118,13 +118,13 @@ private slots:
             const QString code = QString::fromUtf8(file.readAll());
             for (auto it = literal.globalMatch(code); it.hasNext();) {
                 const QRegularExpressionMatch m = it.next();
-                const int lineStart = code.lastIndexOf('\n', m.capturedStart()) + 1;
-                const QString line = code.mid(lineStart, code.indexOf('\n', m.capturedStart()) - lineStart);
+                const int at = int(m.capturedStart()), lineStart = int(code.lastIndexOf('\n', at)) + 1;
+                const QString line = code.mid(lineStart, code.indexOf('\n', at) - lineStart);
                 if (!sentence.match(m.captured(1)).hasMatch() || line.trimmed().startsWith("//") ||
                     line.startsWith("#include") || line.contains("notr"))
                     continue;
-                const int from = std::max(0, m.capturedStart() - 80);
-                QVERIFY2(marked.match(code.mid(from, m.capturedStart() - from)).hasMatch(),
+                const int from = std::max(0, at - 80);
+                QVERIFY2(marked.match(code.mid(from, at - from)).hasMatch(),
                          qPrintable(name + ": not translated: " + m.captured(1)));
             }
         }

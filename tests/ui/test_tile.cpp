@@ -35,16 +35,14 @@ class TileTest : public QObject {
     // A label as shown: its background and the colour of its text (the pixel farthest from the background).
     QPair<QRgb, QRgb> look(QLabel* l) {
         const QImage image = tile->grab(QRect(l->mapTo(tile, QPoint()), l->size())).toImage();
-        const QColor ground(image.pixel(0, 0));
-        QColor ink = ground;
-        auto distance = [&](QColor c) {
-            return std::abs(c.red() - ground.red()) + std::abs(c.green() - ground.green()) +
-                   std::abs(c.blue() - ground.blue());
-        };
+        const QRgb ground = image.pixel(0, 0) & 0xffffff;
+        auto distance = [&](QRgb c) { return std::abs(qRed(c) - qRed(ground)) + std::abs(qGreen(c) - qGreen(ground)) +
+                                             std::abs(qBlue(c) - qBlue(ground)); };
+        QRgb ink = ground;
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x)
-                if (distance(QColor(image.pixel(x, y))) > distance(ink)) ink = QColor(image.pixel(x, y));
-        return {ground.rgb() & 0xffffff, ink.rgb() & 0xffffff};
+                if (distance(image.pixel(x, y)) > distance(ink)) ink = image.pixel(x, y);
+        return {ground, ink & 0xffffff};
     }
     QRgb ink(QLabel* l) { return look(l).second; }
 

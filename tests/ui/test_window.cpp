@@ -244,17 +244,16 @@ private slots:
         expectClean(true);
         savePicture(dialog, "pencil_marks_options");
 
-        // A double click on a rule applies it alone and moves nothing.
+        // A double click on a rule applies it alone and moves nothing: removed candidates show white on red.
         const size_t before = window->currentBoard()->historySize();
         const QPoint at = src->visualItemRect(src->item(11)).center();  // 12. Hidden Singles
         QTest::mouseClick(src->viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(src->viewport(), Qt::LeftButton, {}, at);
         QVERIFY(window->currentBoard()->historySize() > before);
         QCOMPARE(window->currentBoard()->pencilMarksRulesList(), Rules{eng::ruleSingles});
-        int marked = 0;
-        for (QLabel* label : window->findChildren<QLabel*>())
-            marked += label->styleSheet() == Tile::stylePotentialRemoved;
-        QVERIFY(marked > 0);
+        const QList<QLabel*> labels = window->findChildren<QLabel*>();
+        QVERIFY(std::any_of(labels.begin(), labels.end(),
+                            [](QLabel* l) { return l->styleSheet() == Tile::stylePotentialRemoved; }));
         savePicture(*window, "window_rules_applied");
         QCOMPARE(src->count(), 15);
         expectClean(true);
@@ -263,23 +262,18 @@ private slots:
         src->item(11)->setSelected(true);  // 12. Hidden Singles
         click("btnToDst");
         expectClean(false);
-        // Hidden Singles to the top; up on the first row stays, the list keeps the focus.
+        // Hidden Singles to the top, the list keeping the focus; then back down one.
         dest->clearSelection();
         dest->setCurrentRow(2);
         child(dialog, "btnToDst")->setFocus();
-        for (int k = 0; k < 3; ++k) click("btnUp");
+        for (int k = 0; k < 2; ++k) click("btnUp");
         QCOMPARE(dialog.selectedRules(), (Rules{eng::ruleHiddenSingles, eng::ruleSingles, eng::ruleDoubles}));
         QCOMPARE(dialog.focusWidget(), static_cast<QWidget*>(dest));
         apply();
         expectClean(true);
-        dest->setCurrentRow(0);
         click("btnDown");
         QCOMPARE(dialog.selectedRules(), (Rules{eng::ruleSingles, eng::ruleHiddenSingles, eng::ruleDoubles}));
-        expectClean(false);
         apply();
-        dest->selectAll();
-        click("btnToSrc");
-        QCOMPARE(src->count(), 16);
         // Everything chosen: sixteen distinct rules reach the board.
         src->selectAll();
         click("btnToDst");
