@@ -370,43 +370,71 @@ private slots:
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{"fill", "game.sud"}));
     }
 
-    // Closing during a refusal blink or the completion sweep: clicks and commands meanwhile are ignored, the board
-    // keeps what the entry made of it and no message box is left waiting.
-    void closeDuringAnimation_data() {
+    // Input while a refused value blinks or the completed board is celebrated: keys wait and then count; clicks and
+    // commands are ignored, and closing ends it with the board as the entry left it and no message box waiting.
+    void inputDuringAnimation_data() {
         QTest::addColumn<bool>("completing");
-        QTest::newRow("refusal") << false;
-        QTest::newRow("celebration") << true;
+        QTest::addColumn<QString>("during");  // keys (Space, Down, Escape, Right, Return, Left); C: commands, close
+        QTest::addColumn<int>("caret");       // where the caret ends: -1 none, 0 the cell typed in, 1 the next empty one
+        QTest::addColumn<int>("mode");
+        QTest::newRow("refusal, keys") << false << "SDE" << -1 << 0;
+        QTest::newRow("refusal, space") << false << "S" << 0 << 2;
+        QTest::newRow("refusal, right") << false << ">" << 1 << 1;
+        QTest::newRow("celebration, keys") << true << "DSREDL" << -1 << 0;
+        QTest::newRow("refusal, closed") << false << "C" << -1 << 0;
+        QTest::newRow("celebration, closed") << true << "C" << -1 << 0;
     }
-    void closeDuringAnimation() {
+    void inputDuringAnimation() {
         QFETCH(bool, completing);
+        QFETCH(QString, during);
+        QFETCH(int, caret);
+        QFETCH(int, mode);
+        QApplication::setActiveWindow(window);
+        QVERIFY(QTest::qWaitForWindowActive(window));
         MessageBoxAnswerer answerer;
-        trigger(*window, "actionNewGameVeryEasy");
+        std::srand(7);
+        trigger(*window, completing ? "actionNewGameVeryEasy" : "actionNewGameMedium");
+        if (!completing) trigger(*window, "actionViewPencilMarks");
         eng::Board* board = window->currentBoard();
         int last = firstEmpty(*window);
         for (int i = firstEmpty(*window, last); completing && i >= 0; i = firstEmpty(*window, i)) {
             QVERIFY(board->setValue(last, board->solutionValue(last)));
             last = i;
         }
+        const int next = firstEmpty(*window, last);
         const size_t history = board->historySize();
         answerer.texts.clear();
-        QTimer::singleShot(300, window, [this] {
+        QTimer::singleShot(300, window, [&] {
+            for (QChar k : during) {
+                const int at = QString("SDE>RL").indexOf(k);
+                const Qt::Key keys[] = {Qt::Key_Space, Qt::Key_Down, Qt::Key_Escape,
+                                        Qt::Key_Right, Qt::Key_Return, Qt::Key_Left};
+                if (at >= 0) QTest::keyClick(window->focusWidget() ? window->focusWidget() : window, keys[at]);
+            }
+            if (during != "C") return;
             QTest::mouseClick(window->tileAt(0), Qt::LeftButton);
-            trigger(*window, "actionRetractMove");
-            trigger(*window, "actionMakeMove");
-            trigger(*window, "actionOpenGame");
-            trigger(*window, "actionNewGameHard");
+            for (const char* command : {"actionRetractMove", "actionMakeMove", "actionOpenGame", "actionNewGameHard"})
+                trigger(*window, command);
             window->close();
         });
         QElapsedTimer timer;
         timer.start();
         const int v = board->solutionValue(last);
         clickThenKey(last, Qt::Key(Qt::Key_0 + (completing ? v : v % 9 + 1)));
-        QVERIFY(timer.elapsed() < 2500);
-        QVERIFY(!window->isVisible());
-        QCOMPARE(window->currentBoard(), board);
-        QCOMPARE(board->historySize(), history + completing);
         QCOMPARE(window->tileAt(last)->hasValue(), completing);
-        QVERIFY(answerer.texts.isEmpty());
+        QCOMPARE(window->currentBoard(), board);
+        if (during == "C") {
+            QVERIFY(timer.elapsed() < 2500);
+            QVERIFY(!window->isVisible());
+            QCOMPARE(board->historySize(), history + completing);
+            QVERIFY(answerer.texts.isEmpty());
+            return;
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(!window->isBusy(), 20000);
+        QCoreApplication::processEvents();
+        const int expected = caret < 0 ? -1 : caret == 0 ? last : next;
+        QCOMPARE(window->caret(), expected);
+        if (expected >= 0) QCOMPARE(int(window->tileAt(expected)->caret()), mode);
     }
 
     // Where the layout puts the boards on the paper (A4, millimetres), and only there, is ink; the layout keeps
