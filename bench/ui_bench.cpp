@@ -1,6 +1,6 @@
 // How long the window takes to show what the player asked for, measured on the
 // real widgets: a move, a retraction, a value entry (slot call to return, the
-// repaint included), a click, a new game at each level (from the engine's
+// repaint included), a click, a hint shown, a new game at each level (from the engine's
 // report of the finished game to the return of the command), and start-up
 // (main to the first painted board, in a fresh process each time).
 // Run it on the platform to measure: QT_QPA_PLATFORM=offscreen, or under
@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "HighDpi.h"
+#include "HintController.h"
 #include "MemoryWarmUp.h"
 #include "StartUpWarmUp.h"
 #include "SudokuWindow.h"
@@ -127,6 +128,30 @@ void BM_Click(benchmark::State& state) {
     state.counters["painted_p99_ms"] = percentile(painted, 0.99);
 }
 BENCHMARK(BM_Click)->Iterations(100)->Unit(benchmark::kMillisecond);
+
+// Game -> Hint, first press: the hint found, its tiles restyled and its words
+// shown, until the command returns and until the repaint is done. Cleared
+// untimed between presses.
+void BM_HintShown(benchmark::State& state) {
+    TimedWindow& w = window();
+    QAction* hint = w.findChild<QAction*>("actionHint");
+    HintController* hints = w.findChild<HintController*>("hintController");
+    std::vector<double> handled, painted;
+    for (auto _ : state) {
+        QElapsedTimer t;
+        t.start();
+        hint->trigger();
+        handled.push_back(msSince(t));
+        QCoreApplication::processEvents();
+        painted.push_back(msSince(t));
+        hints->clear();
+        QCoreApplication::processEvents();
+    }
+    report(state, handled);
+    state.counters["painted_median_ms"] = percentile(painted, 0.5);
+    state.counters["painted_p99_ms"] = percentile(painted, 0.99);
+}
+BENCHMARK(BM_HintShown)->Iterations(100)->Unit(benchmark::kMillisecond);
 
 // A new game at each level on the window's board, with pencil marks hidden and
 // shown: the time from the engine's report of the finished game until the board

@@ -237,6 +237,42 @@ bool Board::togglePotential(int index, int value) {
     return true;
 }
 
+bool Board::placeMove(int index, int value) {
+    if (history.empty() || !validIndex(index) || history.back()->cells[index].value() != 0) return false;
+    if (level != lvlUserEdit && (value == 0 || value != masterSolution.value(index))) return false;
+    if (!placeValueAs(index, value, level == lvlUserEdit ? placeSearch : placeHint)) return false;
+    reportCells();
+    return true;
+}
+
+bool Board::removePotentials(const std::vector<std::pair<int, int>>& marks) {
+    if (history.empty()) return false;
+    const bool inPlace = level != lvlUserEdit || history.size() < 2;
+    auto next = history.back()->copy();
+    try {
+        for (const auto& [index, value] : marks) {
+            if (!validIndex(index) || value < 1 || value > 9 || next->cells[index].value() != 0) return false;
+            if (level != lvlUserEdit && value == masterSolution.value(index)) return false;
+            next->cells[index].removePotential(value, false);
+        }
+    } catch (ExCellConflict& conflict) {
+        conflict.describe();
+        return false;
+    }
+    if (!inPlace) {
+        RuleSolver solver(pencilMarksRules);
+        bool changed = false;
+        if (!isConsistent(*next) || !runRules(*next, solver, changed)) return false;
+    }
+    next->guess = history.back()->guess;
+    if (inPlace)
+        history.back() = std::move(next);
+    else
+        history.push_back(std::move(next));
+    reportCells();
+    return true;
+}
+
 void Board::setPencilMarksRules(std::list<Rules> rules) {
     pencilMarksRules = std::move(rules);
     applyRulesList(pencilMarksRules);

@@ -6,11 +6,13 @@
 #include <deque>
 #include <list>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "BoardSnapshot.h"
 #include "Cell.h"
 #include "Conflicts.h"
+#include "Grid.h"
 #include "MasterSolution.h"
 #include "Rules.h"
 
@@ -28,6 +30,10 @@ enum Level : int {
     lvlHard = 4,
     lvlUserEdit = 5,
 };
+
+// A grade beyond the levels: puzzles that even the Hard preset cannot solve.
+// A board holds such a game at lvlHard.
+constexpr int gradeExpert = 6;
 
 // Phases of a board: generation fills a solution, then reveals givens; a game
 // is played in the last phase, the only one that reports cells.
@@ -65,8 +71,24 @@ public:
     bool makeMove();
     bool retract();
     bool isComplete();
+    // A hint carried out: places a value as make move places one (origin 3, one
+    // history entry): the solution's digit in a generated game, in User Edit a
+    // value the consistency check accepts.
+    bool placeMove(int index, int value);
+    // Removes pencil marks (cell, value) as the player's toggles remove them,
+    // all in one change; false, with nothing changed, when any one would be refused.
+    bool removePotentials(const std::vector<std::pair<int, int>>& marks);
     void setPencilMarksRules(std::list<Rules> rules);
     void applyPencilMarksRule(Rules rule);
+    // Starts a game on givens whose only solution is `solution`, as generation
+    // would end one: the givens with origin 1, the solution stored, so that a
+    // wrong value is refused, the level the givens' grade (lvlHard for
+    // gradeExpert), phase playing, the cells reported. False, and the board
+    // unchanged, when the solution is no valid full grid that keeps the givens.
+    bool startGame(const Grid& givens, const Grid& solution);
+    // The easiest level whose reveal preset solves the givens: lvlCompleted for
+    // a full grid, lvlVeryEasy to lvlHard, or gradeExpert beyond them.
+    static int grade(const Grid& givens);
 
     // Read-only queries used by tests, tools and the user interface.
     int getLevel() const { return level; }

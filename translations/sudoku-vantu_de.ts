@@ -17,6 +17,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>Block %1</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>Spalten %1</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>Zeilen %1</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>Zeile %1, Spalten %2</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>Spalte %1, Zeilen %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>Letztes leeres Feld</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>Versteckter Einer</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>Nackter Einer</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Einer</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>Gesperrte Kandidaten</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>Nackter Drilling</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>Nacktes Paar</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>Nackter Vierling</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>Verstecktes Paar</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>Versteckter Drilling</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>Versteckter Vierling</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>Feld %1 enthält %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>die %1 in %2 liegt nur in %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>in %1 können %2 nur in %3 stehen</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>in %1 können %2 nur %3 enthalten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>Feld %1 ist das einzige leere Feld in %2, also steht dort %3</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>in %1 kann nur Feld %2 die %3 enthalten</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>Feld %1 kann nur %2 enthalten</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>also behalten diese Felder nur %1</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>also wird %1 aus %2 entfernt</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>also ist Feld %1 der einzige Platz für die %2 in %3</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>also kann Feld %1 nur %2 enthalten</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>Das Spiel ist vollständig: Es gibt nichts mehr zu zeigen.</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>Das Spielfeld ist leer: Geben Sie zuerst ein Rätsel ein oder nutzen Sie „Zug ausführen“.</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>Hier findet keine Regel einen nächsten Schritt. „Zug ausführen“ kann einen Wert setzen.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>Das Spielfeld widerspricht sich: %1 enthält die %2 zweimal.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>Das Spielfeld widerspricht sich: %1 hat keinen Platz mehr für die %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>Das Spielfeld widerspricht sich: Feld %1 hat keinen Kandidaten mehr.</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>Der Tipp konnte nicht ausgeführt werden.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -171,6 +342,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>Die Zwischenablage enthält kein Rätsel.
+Ein Rätsel hat 81 Felder: eine Ziffer für eine Vorgabe, 0 oder . für ein leeres Feld.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Dieses Rätsel ist nicht spielbar:
+eine Zeile, Spalte oder ein Block enthält eine Ziffer doppelt.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Dieses Rätsel hat keine Lösung.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Dieses Rätsel hat mehr als eine Lösung.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Rätsel eingefügt.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Rätsel kopiert.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -259,6 +461,10 @@ Fortfahren?</translation>
 (expected version: %1 actual version: %2)</source>
         <translation>Die Version der geladenen Datei ist nicht kompatibel
 (erwartete Version: %1, tatsächliche Version: %2)</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>Stufe: Experte</translation>
     </message>
 </context>
 <context>
@@ -474,6 +680,30 @@ Fortfahren?</translation>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Zurück &amp; Vor</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>Rätsel &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Das Spielfeld als 81 Zeichen kopieren</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>Rätsel e&amp;infügen</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Das Rätsel aus der Zwischenablage spielen</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Tipp</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>Den nächsten Schritt zeigen; erneut drücken, um ihn auszuführen</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>la fila %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>la columna %1</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>la caja %1</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>fila %1, columna %2</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>columnas %1</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>filas %1</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>fila %1, columnas %2</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>columna %1, filas %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>Última casilla vacía</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>Único oculto</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>Único desnudo</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Único</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>Candidatos bloqueados</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>Trío desnudo</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>Pareja desnuda</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>Cuarteto desnudo</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>Pareja oculta</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>Trío oculto</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>Cuarteto oculto</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>la casilla %1 contiene %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>en %2, el %1 solo está en %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>en %1, %2 solo pueden ir en las casillas %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>en %1, las casillas %2 solo pueden contener %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>la casilla %1 es la única vacía en %2, así que contiene %3</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>en %1, solo la casilla %2 puede contener %3</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>la casilla %1 solo puede contener %2</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>así que esas casillas solo conservan %1</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>así que %1 se elimina de las casillas %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>así que la casilla %1 es el único lugar que queda para el %2 en %3</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>así que la casilla %1 solo puede contener %2</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>El tablero está completo: no queda nada por indicar.</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>El tablero está vacío: introduzca primero un sudoku o use Hacer movimiento.</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>Ninguna regla encuentra aquí un paso siguiente. Hacer movimiento puede colocar un valor.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>El tablero se contradice: %1 contiene el %2 dos veces.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>El tablero se contradice: %1 no tiene sitio para el %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>El tablero se contradice: la casilla %1 no tiene ningún candidato.</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>No se pudo aplicar la pista.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -171,6 +342,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>El portapapeles no contiene ningún sudoku.
+Un sudoku tiene 81 casillas: una cifra para cada pista, 0 o . para una casilla vacía.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Este sudoku no se puede jugar:
+una fila, columna o cuadro repite una cifra.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Este sudoku no tiene solución.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Este sudoku tiene más de una solución.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Sudoku pegado.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Sudoku copiado.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -259,6 +461,10 @@ Continue?</source>
 (expected version: %1 actual version: %2)</source>
         <translation>La versión del archivo cargado no es compatible
 (versión esperada: %1, versión real: %2)</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>dificultad: Experto</translation>
     </message>
 </context>
 <context>
@@ -474,6 +680,30 @@ Continue?</source>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Atrás &amp; adelante</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Copiar sudoku</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Copiar el tablero como 81 caracteres</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>P&amp;egar sudoku</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Jugar el sudoku del portapapeles</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Pista</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>Muestra el siguiente paso; púlselo de nuevo para aplicarlo</translation>
     </message>
 </context>
 <context>

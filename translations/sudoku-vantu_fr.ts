@@ -17,6 +17,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>la ligne %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>la colonne %1</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>le bloc %1</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>ligne %1, colonne %2</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>colonnes %1</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>lignes %1</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>ligne %1, colonnes %2</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>colonne %1, lignes %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation> ; </translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>Dernière case vide</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>Singleton caché</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>Singleton nu</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Singleton</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>Candidats verrouillés</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>Triplet nu</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>Paire nue</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>Quadruplet nu</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>Paire cachée</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>Triplet caché</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>Quadruplet caché</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>la case %1 contient %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>tous les candidats %1 que compte %2 sont dans %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>dans %1, %2 ne peuvent aller que dans les cases %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>dans %1, les cases %2 ne peuvent contenir que %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>la case %1 est la seule case vide dans %2, elle contient donc %3</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>dans %1, seule la case %2 peut contenir %3</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>la case %1 ne peut contenir que %2</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>donc ces cases ne gardent que %1</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>donc %1 est retiré des cases %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>donc la case %1 est la seule place restante pour %2 dans %3</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>donc la case %1 ne peut contenir que %2</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>La grille est complète : il n’y a plus rien à indiquer.</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>La grille est vide : saisissez d’abord une grille, ou utilisez Jouer un coup.</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>Aucune règle ne trouve d’étape suivante ici. Jouer un coup peut placer une valeur.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>La grille se contredit : %1 contient deux fois %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>La grille se contredit : %1 n’a plus de place pour %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>La grille se contredit : la case %1 n’a plus aucun candidat.</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>L’indice n’a pas pu être appliqué.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -171,6 +342,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>Le presse-papiers ne contient aucune grille.
+Une grille compte 81 cases : un chiffre pour une case donnée, 0 ou . pour une case vide.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Cette grille est injouable :
+une ligne, une colonne ou un carré contient deux fois le même chiffre.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Cette grille n&apos;a aucune solution.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Cette grille a plus d&apos;une solution.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Grille collée.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Grille copiée.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -259,6 +461,10 @@ Continuer ?</translation>
 (expected version: %1 actual version: %2)</source>
         <translation>La version du fichier chargé est incompatible
 (version attendue : %1, version réelle : %2)</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>niveau : Expert</translation>
     </message>
 </context>
 <context>
@@ -474,6 +680,30 @@ Continuer ?</translation>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Arrière &amp; avant</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Copier la grille</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Copier la grille sous forme de 81 caractères</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>Co&amp;ller une grille</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Jouer la grille du presse-papiers</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>In&amp;dice</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>Montrer l’étape suivante ; appuyer de nouveau pour l’appliquer</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>la riga %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>la colonna %1</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>il riquadro %1</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>riga %1, colonna %2</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>colonne %1</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>righe %1</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>riga %1, colonne %2</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>colonna %1, righe %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>Ultima casella vuota</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>Singolo nascosto</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>Singolo nudo</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Singolo</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>Candidati bloccati</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>Terna nuda</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>Coppia nuda</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>Quaterna nuda</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>Coppia nascosta</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>Terna nascosta</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>Quaterna nascosta</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>la casella %1 contiene %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>%3 contiene tutti i candidati %1 che %2 ha</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>%1 ha posto per %2 solo nelle caselle %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>%1 ha le caselle %2, che possono contenere solo %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>%2 ha una sola casella vuota, %1, che quindi contiene %3</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>%1 ha posto per il %3 solo nella casella %2</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>la casella %1 può contenere solo %2</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>quindi queste caselle tengono solo %1</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>quindi %1 si toglie dalle caselle %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>quindi %3 ha posto per il %2 solo nella casella %1</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>quindi la casella %1 può contenere solo %2</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>La griglia è completa: non resta nulla da suggerire.</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>La griglia è vuota: inserisci prima uno schema, oppure usa Fai una mossa.</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>Nessuna regola trova qui un passo successivo. Fai una mossa può inserire un valore.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>La griglia si contraddice: %1 contiene il %2 due volte.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>La griglia si contraddice: %1 non ha più posto per il %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>La griglia si contraddice: la casella %1 non ha più candidati.</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>Non è stato possibile applicare il suggerimento.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -171,6 +342,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>Gli appunti non contengono uno schema.
+Uno schema ha 81 caselle: una cifra per ogni numero dato, 0 o . per una casella vuota.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Questo schema non si può giocare:
+una riga, colonna o riquadro contiene due volte la stessa cifra.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Questo schema non ha soluzione.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Questo schema ha più di una soluzione.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Schema incollato.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Schema copiato.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -259,6 +461,10 @@ Continuare?</translation>
 (expected version: %1 actual version: %2)</source>
         <translation>La versione del file caricato non è compatibile
 (versione prevista: %1, versione effettiva: %2)</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>livello: Esperto</translation>
     </message>
 </context>
 <context>
@@ -474,6 +680,30 @@ Continuare?</translation>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Indietro &amp; avanti</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Copia schema</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Copia la griglia come 81 caratteri</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>&amp;Incolla schema</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Gioca lo schema presente negli appunti</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>Su&amp;ggerimento</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>Mostra il passo successivo; premi di nuovo per applicarlo</translation>
     </message>
 </context>
 <context>

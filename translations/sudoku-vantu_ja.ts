@@ -17,6 +17,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1と%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>%1行目</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>%1列目</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>ブロック%1</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>%1行%2列</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>%1列</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>%1行</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>%1行の%2列</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>%1列の%2行</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>最後の空きマス</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>隠れシングル</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>ネイキッドシングル</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>シングル</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>候補のロック</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>ネイキッドトリプル</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>ネイキッドペア</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>ネイキッドクアッド</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>隠れペア</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>隠れトリプル</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>隠れクアッド</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>%1は%2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>%2の%1は%3の中だけにある</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>%1では、%2は%3にしか入らない</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>%1では、%2には%3しか入らない</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>%1は%2で唯一の空きマスなので、%3が入る</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>%1では、%3が入るのは%2だけ</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>%1には%2しか入らない</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>よってこれらのマスには%1だけが残る</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>よって%2から%1を消す</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>よって%3で%2が入るのは%1だけ</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>よって%1には%2しか入らない</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>盤面は完成しています：ヒントはもうありません。</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>盤面が空です：先に問題を入力するか、「一手進める」を使ってください。</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>次の一手を見つけられる規則がありません。「一手進める」で数字を置けます。</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>盤面が矛盾しています：%1に%2が2つあります。</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>盤面が矛盾しています：%1には%2を入れる場所がありません。</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>盤面が矛盾しています：%1に候補が残っていません。</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>ヒントを実行できませんでした。</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -171,6 +342,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>クリップボードに問題がありません。
+問題は 81 マスです: ヒントは数字、空きマスは 0 または . で表します。</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>この問題は遊べません:
+行・列・ブロックのどこかに同じ数字が 2 つあります。</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>この問題には解がありません。</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>この問題には複数の解があります。</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>問題を貼り付けました。</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>問題をコピーしました。</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -259,6 +461,10 @@ Continue?</source>
 (expected version: %1 actual version: %2)</source>
         <translation>読み込んだファイルのバージョンに互換性がありません
 （必要なバージョン：%1、実際のバージョン：%2）</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>難易度: エキスパート</translation>
     </message>
 </context>
 <context>
@@ -474,6 +680,30 @@ Continue?</source>
     <message>
         <source>Back &amp; Forward</source>
         <translation>戻る &amp; 進む</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>問題をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>盤面を 81 文字としてコピー</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>問題を貼り付け(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>クリップボードの問題で遊ぶ</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>ヒント(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>次の一手を表示し、もう一度押すと実行します</translation>
     </message>
 </context>
 <context>

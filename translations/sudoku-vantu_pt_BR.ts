@@ -17,6 +17,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>a linha %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>a coluna %1</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>o bloco %1</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>linha %1, coluna %2</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>colunas %1</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>linhas %1</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>linha %1, colunas %2</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>coluna %1, linhas %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>Última casa vazia</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>Único oculto</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>Único nu</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Único</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>Candidatos bloqueados</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>Trio nu</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>Par nu</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>Quarteto nu</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>Par oculto</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>Trio oculto</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>Quarteto oculto</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>a casa %1 contém %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>%3 contém todos os candidatos %1 que %2 tem</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>%1 só tem lugar para %2 nas casas %3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>%1 tem as casas %2, que só podem conter %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>%2 só tem uma casa vazia, %1, que portanto contém %3</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>%1 só tem lugar para o %3 na casa %2</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>a casa %1 só pode conter %2</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>então essas casas ficam só com %1</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>então %1 sai das casas %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>então %3 só tem lugar para o %2 na casa %1</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>então a casa %1 só pode conter %2</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>O tabuleiro está completo: não há mais nada a indicar.</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>O tabuleiro está vazio: primeiro digite um jogo ou use Fazer jogada.</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>Nenhuma regra encontra um próximo passo aqui. Fazer jogada pode colocar um valor.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>O tabuleiro se contradiz: %1 contém o %2 duas vezes.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>O tabuleiro se contradiz: %1 não tem mais lugar para o %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>O tabuleiro se contradiz: a casa %1 não tem mais candidatos.</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>Não foi possível aplicar a dica.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -171,6 +342,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>A área de transferência não contém um sudoku.
+Um sudoku tem 81 casas: um algarismo para cada casa dada, 0 ou . para uma casa vazia.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>Este sudoku não pode ser jogado:
+uma linha, coluna ou quadrado repete um algarismo.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>Este sudoku não tem solução.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>Este sudoku tem mais de uma solução.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Sudoku colado.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Sudoku copiado.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -259,6 +461,10 @@ Continuar?</translation>
 (expected version: %1 actual version: %2)</source>
         <translation>A versão do arquivo carregado é incompatível
 (versão esperada: %1, versão real: %2)</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>dificuldade: especialista</translation>
     </message>
 </context>
 <context>
@@ -474,6 +680,30 @@ Continuar?</translation>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Voltar &amp; avançar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Copiar sudoku</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Copiar o tabuleiro como 81 caracteres</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>Co&amp;lar sudoku</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Jogar o sudoku da área de transferência</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>&amp;Obter dica</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>Mostra o próximo passo; pressione de novo para aplicá-lo</translation>
     </message>
 </context>
 <context>

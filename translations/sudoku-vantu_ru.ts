@@ -17,6 +17,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 и %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>строка %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>столбец %1</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>блок %1</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>строка %1, столбец %2</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>столбцы %1</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>строки %1</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>строка %1, столбцы %2</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>столбец %1, строки %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>Последняя пустая клетка</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>Скрытая одиночка</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>Открытая одиночка</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Одиночка</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>Блокировка кандидатов</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>Открытая тройка</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>Открытая пара</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>Открытая четвёрка</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>Скрытая пара</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>Скрытая тройка</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>Скрытая четвёрка</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>в клетке (%1) стоит %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>кандидаты %1 из «%2» лежат только в «%3»</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>«%1»: %2 могут стоять только в клетках (%3)</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>«%1»: клетки (%2) могут содержать только %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>клетка (%1) — единственная пустая в «%2», значит, в ней %3</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>«%1»: только клетка (%2) может содержать %3</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>клетка (%1) может содержать только %2</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>значит, в этих клетках остаются только %1</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>значит, %1 удаляется из клеток (%2)</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>значит, клетка (%1) — единственное место для %2 в «%3»</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>значит, клетка (%1) может содержать только %2</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>Поле заполнено: подсказывать больше нечего.</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>Поле пустое: сначала введите головоломку или воспользуйтесь «Сделать ход».</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>Ни одно правило не находит здесь следующего шага. «Сделать ход» может поставить значение.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>Поле противоречиво: в «%1» дважды стоит %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>Поле противоречиво: в «%1» некуда поставить %2.</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>Поле противоречиво: у клетки (%1) не осталось кандидатов.</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>Подсказку не удалось выполнить.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -171,6 +342,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>В буфере обмена нет задачи.
+Задача — это 81 клетка: цифра для заданной клетки, 0 или . для пустой.</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>В эту задачу нельзя играть:
+в строке, столбце или квадрате цифра повторяется.</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>У этой задачи нет решения.</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>У этой задачи больше одного решения.</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>Задача вставлена.</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>Задача скопирована.</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -259,6 +461,10 @@ Continue?</source>
 (expected version: %1 actual version: %2)</source>
         <translation>Версия загруженного файла несовместима
 (ожидаемая версия: %1, фактическая версия: %2)</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>сложность: эксперт</translation>
     </message>
 </context>
 <context>
@@ -474,6 +680,30 @@ Continue?</source>
     <message>
         <source>Back &amp; Forward</source>
         <translation>Назад &amp; вперёд</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>&amp;Копировать задачу</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>Скопировать поле как 81 символ</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>&amp;Вставить задачу</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>Играть задачу из буфера обмена</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>По&amp;дсказка</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>Показать следующий шаг; нажмите ещё раз, чтобы выполнить его</translation>
     </message>
 </context>
 <context>

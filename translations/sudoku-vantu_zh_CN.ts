@@ -17,6 +17,177 @@
     </message>
 </context>
 <context>
+    <name>HintController</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1和%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>第%1行</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>第%1列</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>第%1宫</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>第%1行第%2列</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>第%1列</translation>
+    </message>
+    <message>
+        <source>rows %1</source>
+        <translation>第%1行</translation>
+    </message>
+    <message>
+        <source>row %1, columns %2</source>
+        <translation>第%1行第%2列</translation>
+    </message>
+    <message>
+        <source>column %1, rows %2</source>
+        <translation>第%1列第%2行</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>Last empty cell</source>
+        <translation>最后一格</translation>
+    </message>
+    <message>
+        <source>Hidden single</source>
+        <translation>隐性唯一数</translation>
+    </message>
+    <message>
+        <source>Naked single</source>
+        <translation>显性唯一数</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>唯一数</translation>
+    </message>
+    <message>
+        <source>Locked candidates</source>
+        <translation>区块排除</translation>
+    </message>
+    <message>
+        <source>Naked triple</source>
+        <translation>显性三数组</translation>
+    </message>
+    <message>
+        <source>Naked pair</source>
+        <translation>显性数对</translation>
+    </message>
+    <message>
+        <source>Naked quad</source>
+        <translation>显性四数组</translation>
+    </message>
+    <message>
+        <source>Hidden pair</source>
+        <translation>隐性数对</translation>
+    </message>
+    <message>
+        <source>Hidden triple</source>
+        <translation>隐性三数组</translation>
+    </message>
+    <message>
+        <source>Hidden quad</source>
+        <translation>隐性四数组</translation>
+    </message>
+    <message>
+        <source>%1 holds %2</source>
+        <translation>%1是%2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lies in %3</source>
+        <translation>%2中的%1都在%3内</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only go in %3</source>
+        <translation>在%1中，%2只能填在%3</translation>
+    </message>
+    <message>
+        <source>in %1, %2 can only hold %3</source>
+        <translation>在%1中，%2只能填%3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is the only empty cell in %2, so it holds %3</source>
+        <translation>%1是%2中唯一的空格，所以填%3</translation>
+    </message>
+    <message>
+        <source>in %1, only %2 can hold %3</source>
+        <translation>在%1中，只有%2能填%3</translation>
+    </message>
+    <message>
+        <source>%1 can only hold %2</source>
+        <translation>%1只能填%2</translation>
+    </message>
+    <message>
+        <source>so these cells keep only %1</source>
+        <translation>所以这些格只保留%1</translation>
+    </message>
+    <message>
+        <source>so %1 is removed from %2</source>
+        <translation>所以从%2中删去%1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>so %1 is the only place left for %2 in %3</source>
+        <translation>所以%1是%3中唯一能填%2的位置</translation>
+    </message>
+    <message>
+        <source>so %1 can only hold %2</source>
+        <translation>所以%1只能填%2</translation>
+    </message>
+    <message>
+        <source>The board is complete: there is nothing left to hint.</source>
+        <translation>盘面已完成：没有可提示的了。</translation>
+    </message>
+    <message>
+        <source>The board is empty: enter a puzzle first, or use Make Move.</source>
+        <translation>盘面是空的：请先输入题目，或使用“走一步”。</translation>
+    </message>
+    <message>
+        <source>No rule finds a next step here. Make Move can place a value.</source>
+        <translation>没有规则能在这里找到下一步。“走一步”可以填入一个数。</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 holds %2 twice.</source>
+        <translation>盘面自相矛盾：%1中%2出现了两次。</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no place left for %2.</source>
+        <translation>盘面自相矛盾：%1中已没有位置可填%2。</translation>
+    </message>
+    <message>
+        <source>The board contradicts itself: %1 has no candidate left.</source>
+        <translation>盘面自相矛盾：%1已没有候选数。</translation>
+    </message>
+    <message>
+        <source>The hint could not be carried out.</source>
+        <translation>无法执行提示。</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>
@@ -171,6 +342,37 @@
     </message>
 </context>
 <context>
+    <name>PuzzleClipboard</name>
+    <message>
+        <source>The clipboard holds no puzzle.
+A puzzle is 81 cells: a digit for a given, 0 or . for an empty cell.</source>
+        <translation>剪贴板中没有题目。
+题目由 81 个格子组成：已知数用数字表示，空格用 0 或 . 表示。</translation>
+    </message>
+    <message>
+        <source>This puzzle cannot be played:
+a row, column or square holds a digit twice.</source>
+        <translation>无法进行这道题目：
+某一行、列或宫中有重复的数字。</translation>
+    </message>
+    <message>
+        <source>This puzzle has no solution.</source>
+        <translation>这道题目无解。</translation>
+    </message>
+    <message>
+        <source>This puzzle has more than one solution.</source>
+        <translation>这道题目有不止一个解。</translation>
+    </message>
+    <message>
+        <source>Puzzle pasted.</source>
+        <translation>已粘贴题目。</translation>
+    </message>
+    <message>
+        <source>Puzzle copied.</source>
+        <translation>已复制题目。</translation>
+    </message>
+</context>
+<context>
     <name>SudokuWindow</name>
     <message>
         <source>difficulty: none</source>
@@ -259,6 +461,10 @@ Continue?</source>
 (expected version: %1 actual version: %2)</source>
         <translation>载入的文件版本不兼容
 （预期版本：%1，实际版本：%2）</translation>
+    </message>
+    <message>
+        <source>difficulty: Expert</source>
+        <translation>难度：专家</translation>
     </message>
 </context>
 <context>
@@ -474,6 +680,30 @@ Continue?</source>
     <message>
         <source>Back &amp; Forward</source>
         <translation>后退 &amp; 前进</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Puzzle</source>
+        <translation>复制题目(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the board as 81 characters</source>
+        <translation>将盘面复制为 81 个字符</translation>
+    </message>
+    <message>
+        <source>P&amp;aste Puzzle</source>
+        <translation>粘贴题目(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Play the puzzle on the clipboard</source>
+        <translation>玩剪贴板中的题目</translation>
+    </message>
+    <message>
+        <source>&amp;Hint</source>
+        <translation>提示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Show the next step; press again to carry it out</source>
+        <translation>显示下一步；再按一次即执行</translation>
     </message>
 </context>
 <context>

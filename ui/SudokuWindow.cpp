@@ -17,6 +17,8 @@
 
 #include "AboutDialog.h"
 #include "ActionIcons.h"
+#include "HintController.h"
+#include "PuzzleClipboard.h"
 #include "TileAccessible.h"
 #include "ui_SudokuWindow.h"
 
@@ -33,6 +35,7 @@ const char* levelLabel(int level) {
     case eng::lvlEasy: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Easy");
     case eng::lvlMedium: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Medium");
     case eng::lvlHard: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Hard");
+    case eng::gradeExpert: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: Expert");
     default: return QT_TRANSLATE_NOOP("SudokuWindow", "difficulty: user edit");
     }
 }
@@ -77,6 +80,17 @@ SudokuWindow::SudokuWindow(QWidget* parent)
         connect(tile, &Tile::potentialsEdited, this, &SudokuWindow::tilePotentialsEdited);
         connect(tile, &Tile::moveCaret, this, &SudokuWindow::tileMoveCaret);
     }
+    // Game -> Hint: a hint carried out changes the board as Make Move does.
+    new HintController(this, ui->actionHint, [this](const std::function<void()>& change) {
+        if (!board || busy) return;
+        {
+            BusyScope scope(busy);
+            markChanges = true;
+            change();
+            markChanges = false;
+        }
+        if (board->isComplete()) celebrate();
+    });
     // The window is as large as its board and cannot be resized or maximised.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
@@ -90,6 +104,21 @@ SudokuWindow::SudokuWindow(QWidget* parent)
     // can begin, and a menu used from the keyboard gives the keys back to it.
     // Like the tiles, it takes no focus by Tab or click: Tab leaves the caret's keys where they are.
     ui->boardWidget->setFocus(Qt::OtherFocusReason);
+
+    // A pasted puzzle becomes the game as a new game does, on a new board.
+    puzzleClipboard = new PuzzleClipboard(this, [this](const eng::Grid& givens, const eng::Grid& solution, int label) {
+        hideCaretIfAny();
+        lastCaretIndex = -1;
+        replaceBoard();
+        board->startGame(givens, solution);
+        setLevelLabel(label);
+    });
+    connect(ui->actionCopyPuzzle, &QAction::triggered, this, [this] { puzzleClipboard->copy(board); });
+    connect(ui->actionPastePuzzle, &QAction::triggered, this, [this] {
+        if (busy) return;
+        BusyScope scope(busy);
+        puzzleClipboard->paste(board != nullptr);
+    });
 
     startFirstGame(firstGame.get());
     setLevelLabel(eng::lvlMedium);
@@ -419,6 +448,7 @@ void SudokuWindow::replaceBoard() {
 }
 
 void SudokuWindow::setLevelLabel(int level) {
+    shownLevel = level;
     ui->txtLevel->setText(tr(levelLabel(level)));
     // A translated label may need more than the form's width; the board leaves room to its right.
     const int needed = ui->txtLevel->sizeHint().width();

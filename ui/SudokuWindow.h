@@ -13,6 +13,7 @@
 #include "PrintingInfo.h"
 #include "Tile.h"
 
+class PuzzleClipboard;
 class QPainter;
 class QPrinter;
 class QSoundEffect;
@@ -50,6 +51,9 @@ public:
     PrintingInfo& printingOptions();
     PencilMarksOptions& pencilMarksDialog();
     QString levelText() const;
+    // The level label's state: a level 0-5, or eng::gradeExpert.
+    void setLevelLabel(int level);
+    int labelLevel() const { return shownLevel; }
     // A4 portrait, full page, no margins: how every print starts.
     static void preparePrinter(QPrinter& printer);
     // Also while input held back meanwhile is still to be carried out.
@@ -124,6 +128,8 @@ private:
     bool replaying = false;
     const QEvent* replayedKey = nullptr;
     FileNameProvider fileNameProvider;
+    PuzzleClipboard* puzzleClipboard = nullptr;
+    int shownLevel = eng::lvlMedium;
 
     class BusyScope {
     public:
@@ -159,7 +165,6 @@ private:
     void playRefusalSound();
     void showMessage(int icon, const QString& text);
     QString askFileName(FileRequest request);
-    void setLevelLabel(int level);
     void defer(std::function<void()> command);
     bool mustDefer() const { return busy > 0 || (!deferred.empty() && !replaying); }
     void runDeferred();

@@ -40,6 +40,8 @@ const QString Tile::stylePotentialRemoved = QStringLiteral("QLabel { background-
 const QString Tile::styleFlashRed = QStringLiteral("background-color: red; color: black;");
 const QString Tile::styleFlashBlack = QStringLiteral("background-color: black; color: white;");
 const QString Tile::styleFlashEnd = QStringLiteral("background-color: transparent; color: black;");
+const QString Tile::styleHintBasis = QStringLiteral("background-color: rgb(255, 236, 170);");
+const QString Tile::styleHintTarget = QStringLiteral("background-color: rgb(255, 176, 0); color: black;");
 
 namespace {
 
@@ -358,6 +360,19 @@ void Tile::highlightValue(int newValue, int oldValue) {
         setTileSheet(styleHighlight);
         highlighted = true;
     }
+}
+
+void Tile::showHint(HintRole role) {
+    buildForm();
+    if (role == hint) return;
+    const QString* sheet = role == HintBasis ? &styleHintBasis : role == HintTarget ? &styleHintTarget : nullptr;
+    const bool restyled = hint != NoHint && styleSheet() != (hint == HintBasis ? styleHintBasis : styleHintTarget);
+    if (hint == NoHint) sheetBeforeHint = styleSheet();
+    hint = role;
+    if (sheet)
+        setTileSheet(*sheet);
+    else if (!restyled)
+        setTileSheet(sheetBeforeHint);
 }
 
 // Lets the window repaint, paints this tile at once and waits one step: a

@@ -27,6 +27,8 @@ class Tile : public QWidget {
 public:
     enum CaretDirection { Left = 1, Right = 2, Up = 3, Down = 4 };
     enum CaretMode { NoCaret = 0, ValueCaret = 1, PencilCaret = 2 };
+    // A hint's cells: those it rests on and those it acts on.
+    enum HintRole { NoHint = 0, HintBasis = 1, HintTarget = 2 };
 
     static const QString styleTileNormal;
     static const QString styleTileGiven;
@@ -43,6 +45,8 @@ public:
     static const QString styleFlashRed;
     static const QString styleFlashBlack;
     static const QString styleFlashEnd;
+    static const QString styleHintBasis;
+    static const QString styleHintTarget;
 
     explicit Tile(QWidget* parent = nullptr);
     ~Tile() override;
@@ -77,6 +81,10 @@ public:
     bool hasValue() const;
     int value() const;
     void highlightValue(int newValue, int oldValue);
+    // Shows the tile in a hint's colour over whatever it showed; NoHint gives
+    // that back, unless the tile has been restyled meanwhile.
+    void showHint(HintRole role);
+    HintRole hintRole() const { return hint; }
 
     // Feedback animations: 4 steps of 200 ms, processing events in between.
     void rejectValue();
@@ -124,6 +132,8 @@ private:
     bool animating = false;
     QList<QWidget*> unpolished;  // hidden labels still styled for an earlier tile sheet
     bool given = false;
+    HintRole hint = NoHint;
+    QString sheetBeforeHint;
     int refused = 0;
     int refusedContent = 0;   // what the cell held when its value was refused
     int announcedContent = -1;  // what assistive technology was last told
