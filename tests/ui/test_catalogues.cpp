@@ -123,7 +123,7 @@ private slots:
                 if (!sentence.match(m.captured(1)).hasMatch() || line.trimmed().startsWith("//") ||
                     line.startsWith("#include") || line.contains("notr"))
                     continue;
-                const int from = std::max(0, at - 80);
+                const int from = std::max(0, at - 200);
                 QVERIFY2(marked.match(code.mid(from, at - from)).hasMatch(),
                          qPrintable(name + ": not translated: " + m.captured(1)));
             }
