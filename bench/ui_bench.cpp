@@ -2,7 +2,8 @@
 // real widgets: a move, a retraction, a value entry (slot call to return, the
 // repaint included), a click, a hint shown, a new game at each level (from the engine's
 // report of the finished game to the return of the command), and start-up
-// (main to the first painted board, in a fresh process each time).
+// (main to the first painted board, in a fresh process each time, with and
+// without a kept game), and keeping the game in progress.
 // Run it on the platform to measure: QT_QPA_PLATFORM=offscreen, or under
 // scripts/with-display.sh for xcb.
 #include <benchmark/benchmark.h>
@@ -13,14 +14,17 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QtTest>
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <vector>
 
 #include "HighDpi.h"
 #include "HintController.h"
+#include "KeptGame.h"
 #include "MemoryWarmUp.h"
 #include "StartUpWarmUp.h"
 #include "SudokuWindow.h"
@@ -170,23 +174,106 @@ void BM_NewGameShown(benchmark::State& state) {
 }
 BENCHMARK(BM_NewGameShown)->ArgsProduct({{0, 1, 2, 3, 4}, {0, 1}})->ArgNames({"level", "pencil"})->Iterations(25)->Unit(benchmark::kMillisecond);
 
-// One fresh process per iteration: it prints the milliseconds from its
-// main to the first painted board (arg 0), or to the first
-// painted bare main window with one label (arg 1), the toolkit's own floor,
-// or to that window at the board's size (arg 2), whose first paint fills as
-// many pixels as the board's.
+// Keeping the game in progress, from a window whose game has a history of
+// range(0) positions (a Hard game played to its end has about 60): the time on
+// the GUI thread (the board encoded and handed to the writer), wall clock and
+// the thread's CPU time, and the time until the writer has it on disk.
+void BM_KeepGame(benchmark::State& state) {
+    TimedWindow& w = window();
+    eng::Board& board = *w.currentBoard();
+    board.generate(eng::lvlHard);
+    while (board.historySize() < static_cast<size_t>(state.range(0)) && firstEmpty(w) != -1) board.makeMove();
+    state.counters["history"] = static_cast<double>(board.historySize());
+    QTemporaryDir dir;
+    KeptGame kept(dir.filePath("game.sud"));
+    kept.attach(&w, {});
+    std::vector<double> gui, cpu, written;
+    const auto cpuMs = [] {
+        timespec now{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+        return now.tv_sec * 1e3 + now.tv_nsec / 1e6;
+    };
+    for (auto _ : state) {
+        QElapsedTimer t;
+        t.start();
+        const double cpuStart = cpuMs();
+        kept.keepNow();
+        cpu.push_back(cpuMs() - cpuStart);
+        gui.push_back(msSince(t));
+        kept.waitForWrites();
+        written.push_back(msSince(t));
+    }
+    report(state, gui);
+    state.counters["cpu_median_ms"] = percentile(cpu, 0.5);
+    state.counters["cpu_p99_ms"] = percentile(cpu, 0.99);
+    state.counters["written_median_ms"] = percentile(written, 0.5);
+    state.counters["written_p99_ms"] = percentile(written, 0.99);
+}
+BENCHMARK(BM_KeepGame)->Arg(1)->Arg(100)->Iterations(100)->Unit(benchmark::kMillisecond);
+
+// One fresh process, with a data folder of its own holding `kept` as the kept
+// game (none when empty): it prints the milliseconds from its main to the first
+// painted board (--startup-child), or to the first painted bare main window
+// with one label (--bare-child), the toolkit's own floor, or to that window at
+// the board's size (--bare-sized-child), whose first paint fills as many pixels
+// as the board's.
+double startUpMs(const char* role, const QByteArray& kept = QByteArray()) {
+    QTemporaryDir data;
+    if (!kept.isEmpty()) {
+        QDir().mkpath(data.filePath("sudoku-vantu"));
+        QFile file(data.filePath("sudoku-vantu/game-in-progress.sud"));
+        if (!file.open(QIODevice::WriteOnly) || file.write(kept) != kept.size()) std::fprintf(stderr, "not kept\n");
+    }
+    QProcess child;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("XDG_DATA_HOME"), data.path());
+    child.setProcessEnvironment(env);
+    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);  // SUDOKU_BENCH_STEPS=1: the steps
+    child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(role)});
+    child.waitForFinished(60000);
+    return QString::fromLatin1(child.readAllStandardOutput()).trimmed().toDouble();
+}
+
+// The board (arg 0), the bare window (arg 1) or the bare window at the board's size (arg 2).
 void BM_StartUp(benchmark::State& state) {
     std::vector<double> millis;
-    for (auto _ : state) {
-        QProcess child;
-        const char* const roles[] = {"--startup-child", "--bare-child", "--bare-sized-child"};
-        child.start(QCoreApplication::applicationFilePath(), {roles[state.range(0)]});
-        child.waitForFinished(60000);
-        millis.push_back(QString::fromLatin1(child.readAllStandardOutput()).trimmed().toDouble());
-    }
+    const char* const roles[] = {"--startup-child", "--bare-child", "--bare-sized-child"};
+    for (auto _ : state) millis.push_back(startUpMs(roles[state.range(0)]));
     report(state, millis);
 }
 BENCHMARK(BM_StartUp)->DenseRange(0, 2)->ArgName("bare")->Iterations(20)->Unit(benchmark::kMillisecond);
+
+// A game in progress as the program keeps it: Medium, 30 moves made.
+QByteArray keptGameFile(bool pencilMarks) {
+    eng::Board board(nullptr);
+    board.generate(eng::lvlMedium);
+    for (int i = 0; i < 30; ++i) board.makeMove();
+    KeptGame::Game extras;
+    extras.pencilMarksShown = pencilMarks;
+    extras.boardRules = extras.chosenRules = {eng::ruleSingles};
+    return KeptGame::encode(board, extras);
+}
+
+// Start-ups taken in turn, so that the machine's load reaches all alike: the
+// board without a kept game (median_ms), with one (kept_median_ms), with one
+// that shows pencil marks (marks_median_ms), and the bare window (bare_median_ms).
+void BM_StartUpKept(benchmark::State& state) {
+    const QByteArray kept = keptGameFile(false), marks = keptGameFile(true);
+    std::vector<double> fresh, restored, shown, bare;
+    for (auto _ : state) {
+        fresh.push_back(startUpMs("--startup-child"));
+        restored.push_back(startUpMs("--startup-child", kept));
+        shown.push_back(startUpMs("--startup-child", marks));
+        bare.push_back(startUpMs("--bare-child"));
+    }
+    report(state, fresh);
+    for (auto [name, millis] : {std::pair{"kept", &restored}, {"marks", &shown}, {"bare", &bare}}) {
+        state.counters[std::string(name) + "_median_ms"] = percentile(*millis, 0.5);
+        state.counters[std::string(name) + "_p99_ms"] = percentile(*millis, 0.99);
+    }
+    state.counters["kept_ratio"] = percentile(restored, 0.5) / percentile(bare, 0.5);
+}
+BENCHMARK(BM_StartUpKept)->Iterations(25)->Unit(benchmark::kMillisecond);
 
 class PaintWatch : public QObject {
 public:
@@ -207,7 +294,8 @@ int startUpChild(int argc, char** argv) {
     const double appMs = msSince(t);
     const Translations translations;
     const double translationsMs = msSince(t);
-    SudokuWindow w;
+    KeptGame keptGame;
+    SudokuWindow w(nullptr, &keptGame);
     const double windowMs = msSince(t);
     PaintWatch watch;
     w.tileAt(80)->installEventFilter(&watch);

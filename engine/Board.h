@@ -61,6 +61,8 @@ public:
     ~Board() override;
     Board(const Board&) = delete;
     Board& operator=(const Board&) = delete;
+    // For a board made where its observer must not be called (another thread).
+    void setObserver(BoardObserver* reportTo) { observer = reportTo; }
 
     bool deserialize(std::istream& in) override;
     bool serialize(std::ostream& out) override;

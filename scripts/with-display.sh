@@ -5,7 +5,8 @@
 # --dpi sets Xft.dpi through xrdb before the command starts (default 96, as a
 # desktop session sets it; Xvfb alone would report 100). The command gets
 # DISPLAY and QT_QPA_PLATFORM=xcb, and a session bus of its own where none is
-# given; its exit status is returned.
+# given, and a fresh empty XDG_DATA_HOME, so that a game the program keeps
+# there is neither the user's nor another run's; its exit status is returned.
 set -euo pipefail
 dpi=96
 if [[ ${1:-} == --dpi ]]; then
@@ -16,10 +17,12 @@ fi
 
 pids=()
 fifo_dir=$(mktemp -d)
+XDG_DATA_HOME=$(mktemp -d)
+export XDG_DATA_HOME
 cleanup() {
   for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
   wait 2>/dev/null || true
-  rm -rf "$fifo_dir"
+  rm -rf "$fifo_dir" "$XDG_DATA_HOME"
 }
 trap cleanup EXIT
 

@@ -3,7 +3,7 @@
 # weston-screenshooter may take screenshots), torn down afterwards.
 #   scripts/with-weston.sh COMMAND [ARGS...]
 # The command gets XDG_RUNTIME_DIR, WAYLAND_DISPLAY and QT_QPA_PLATFORM=wayland, and a session bus of its own where
-# none is given (see with-display.sh); its exit status is returned.
+# none is given, and a fresh empty XDG_DATA_HOME (see with-display.sh); its exit status is returned.
 # Without weston it returns 77 (a skipped test under ctest), saying so.
 set -euo pipefail
 (($#)) || { echo "usage: $0 COMMAND [ARGS...]" >&2; exit 2; }
@@ -12,6 +12,8 @@ command -v weston >/dev/null || { echo "weston is not installed (scripts/deps.sh
 XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_RUNTIME_DIR
 chmod 700 "$XDG_RUNTIME_DIR"
+XDG_DATA_HOME=$XDG_RUNTIME_DIR/data
+export XDG_DATA_HOME
 export WAYLAND_DISPLAY=wayland-sudoku
 weston --backend=headless-backend.so --use-pixman --debug --socket="$WAYLAND_DISPLAY" --width=1280 --height=1024 \
   --idle-time=0 >"$XDG_RUNTIME_DIR/weston.log" 2>&1 &

@@ -188,6 +188,21 @@
     </message>
 </context>
 <context>
+    <name>KeptGame</name>
+    <message>
+        <source>The last game could not be read and was set aside.</source>
+        <translation>Das letzte Spiel war unlesbar und wurde beiseitegelegt.</translation>
+    </message>
+    <message>
+        <source>The last game could not be read.</source>
+        <translation>Das letzte Spiel war unlesbar.</translation>
+    </message>
+    <message>
+        <source>The game in progress cannot be saved for the next start.</source>
+        <translation>Das laufende Spiel kann nicht für den nächsten Start gesichert werden.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>

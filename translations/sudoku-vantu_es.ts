@@ -188,6 +188,21 @@
     </message>
 </context>
 <context>
+    <name>KeptGame</name>
+    <message>
+        <source>The last game could not be read and was set aside.</source>
+        <translation>La última partida no se pudo leer y se apartó.</translation>
+    </message>
+    <message>
+        <source>The last game could not be read.</source>
+        <translation>La última partida no se pudo leer.</translation>
+    </message>
+    <message>
+        <source>The game in progress cannot be saved for the next start.</source>
+        <translation>La partida en curso no se puede guardar para el próximo inicio.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>

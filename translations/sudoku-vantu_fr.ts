@@ -188,6 +188,21 @@
     </message>
 </context>
 <context>
+    <name>KeptGame</name>
+    <message>
+        <source>The last game could not be read and was set aside.</source>
+        <translation>La dernière partie était illisible et a été mise de côté.</translation>
+    </message>
+    <message>
+        <source>The last game could not be read.</source>
+        <translation>La dernière partie était illisible.</translation>
+    </message>
+    <message>
+        <source>The game in progress cannot be saved for the next start.</source>
+        <translation>La partie en cours ne peut pas être conservée pour le prochain lancement.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>

@@ -188,6 +188,21 @@
     </message>
 </context>
 <context>
+    <name>KeptGame</name>
+    <message>
+        <source>The last game could not be read and was set aside.</source>
+        <translation>L’ultima partita era illeggibile ed è stata messa da parte.</translation>
+    </message>
+    <message>
+        <source>The last game could not be read.</source>
+        <translation>L’ultima partita era illeggibile.</translation>
+    </message>
+    <message>
+        <source>The game in progress cannot be saved for the next start.</source>
+        <translation>La partita in corso non può essere conservata per il prossimo avvio.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>

@@ -188,6 +188,21 @@
     </message>
 </context>
 <context>
+    <name>KeptGame</name>
+    <message>
+        <source>The last game could not be read and was set aside.</source>
+        <translation>前回のゲームを読み込めなかったため、ファイルを別名で保管しました。</translation>
+    </message>
+    <message>
+        <source>The last game could not be read.</source>
+        <translation>前回のゲームを読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>The game in progress cannot be saved for the next start.</source>
+        <translation>進行中のゲームを次回の起動用に保存できません。</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>

@@ -188,6 +188,21 @@
     </message>
 </context>
 <context>
+    <name>KeptGame</name>
+    <message>
+        <source>The last game could not be read and was set aside.</source>
+        <translation>O último jogo não pôde ser lido e foi deixado de lado.</translation>
+    </message>
+    <message>
+        <source>The last game could not be read.</source>
+        <translation>O último jogo não pôde ser lido.</translation>
+    </message>
+    <message>
+        <source>The game in progress cannot be saved for the next start.</source>
+        <translation>O jogo em andamento não pode ser guardado para a próxima vez.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>

@@ -188,6 +188,21 @@
     </message>
 </context>
 <context>
+    <name>KeptGame</name>
+    <message>
+        <source>The last game could not be read and was set aside.</source>
+        <translation>Последнюю игру не удалось прочитать; её файл переименован и сохранён.</translation>
+    </message>
+    <message>
+        <source>The last game could not be read.</source>
+        <translation>Последнюю игру не удалось прочитать.</translation>
+    </message>
+    <message>
+        <source>The game in progress cannot be saved for the next start.</source>
+        <translation>Текущую игру не удаётся сохранить до следующего запуска.</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>

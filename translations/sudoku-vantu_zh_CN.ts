@@ -188,6 +188,21 @@
     </message>
 </context>
 <context>
+    <name>KeptGame</name>
+    <message>
+        <source>The last game could not be read and was set aside.</source>
+        <translation>无法读取上一局游戏，其文件已重命名保留。</translation>
+    </message>
+    <message>
+        <source>The last game could not be read.</source>
+        <translation>无法读取上一局游戏。</translation>
+    </message>
+    <message>
+        <source>The game in progress cannot be saved for the next start.</source>
+        <translation>无法为下次启动保存当前游戏。</translation>
+    </message>
+</context>
+<context>
     <name>PencilMarksOptions</name>
     <message>
         <source>Pencil Marks Options</source>

@@ -40,17 +40,21 @@ eng::Rules ruleOf(const QListWidgetItem* item) { return static_cast<eng::Rules>(
 
 }  // namespace
 
-PencilMarksOptions::PencilMarksOptions(QWidget* parent) : QDialog(parent), ui(new Ui::PencilMarksOptions) {
+PencilMarksOptions::PencilMarksOptions(QWidget* parent, const std::list<eng::Rules>& selected)
+    : QDialog(parent), ui(new Ui::PencilMarksOptions) {
     qRegisterMetaType<eng::Rules>("eng::Rules");
     ui->setupUi(this);
-    const std::list<eng::Rules> initial = initialRules();
-    for (const RuleEntry& entry : kEntries) {
-        auto* item = new QListWidgetItem(QIcon(QStringLiteral(":/Sudoku/Resources/") + entry.icon),
-                                         tr(entry.text));
+    const auto itemOf = [this](const RuleEntry& entry) {
+        auto* item = new QListWidgetItem(QIcon(QStringLiteral(":/Sudoku/Resources/") + entry.icon), tr(entry.text));
         item->setData(Qt::UserRole, static_cast<int>(entry.rule));
-        const bool selected = std::find(initial.begin(), initial.end(), entry.rule) != initial.end();
-        (selected ? ui->lstDest : ui->lstSrc)->addItem(item);
-    }
+        return item;
+    };
+    for (const eng::Rules rule : selected)
+        for (const RuleEntry& entry : kEntries)
+            if (entry.rule == rule && ui->lstDest->findItems(tr(entry.text), Qt::MatchExactly).isEmpty())
+                ui->lstDest->addItem(itemOf(entry));
+    for (const RuleEntry& entry : kEntries)
+        if (std::find(selected.begin(), selected.end(), entry.rule) == selected.end()) ui->lstSrc->addItem(itemOf(entry));
     setWindowTitle(tr(kTitle));
     ui->buttonBox->setEnabled(false);
     connect(ui->buttonBox->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &PencilMarksOptions::apply);

@@ -19,7 +19,8 @@ class PencilMarksOptions : public QDialog {
     Q_OBJECT
 
 public:
-    explicit PencilMarksOptions(QWidget* parent = nullptr);
+    // The "Selected:" list starts with selected, in its order.
+    explicit PencilMarksOptions(QWidget* parent = nullptr, const std::list<eng::Rules>& selected = initialRules());
     ~PencilMarksOptions() override;
 
     // The rules of the "Selected:" list, top to bottom.

@@ -46,16 +46,17 @@ bool isArrow(int key) {
 
 }  // namespace
 
-SudokuWindow::SudokuWindow(QWidget* parent)
-    : QMainWindow(parent), ui(new Ui::SudokuWindowClass) {
+SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
+    : QMainWindow(parent), ui(new Ui::SudokuWindowClass), keptGame(keptGame) {
     ActionIcons icons;
-    // The first game is generated on a second thread while the form is built.
-    std::future<std::string> firstGame = std::async(std::launch::async, [rules = selectedRules()] {
-        eng::Board generator(nullptr);
-        generator.setPencilMarksRules(rules);
-        std::ostringstream saved;
-        if (generator.generate(eng::lvlMedium)) generator.serialize(saved);
-        return saved.str();
+    // The first game, the kept one or a new one, is read or generated on a second thread while the form is built.
+    std::future<KeptGame::Game> firstGame = std::async(std::launch::async, [rules = selectedRules(), keptGame] {
+        KeptGame::Game first = keptGame ? keptGame->take() : KeptGame::Game();
+        if (first.restored) return first;
+        first.board = std::make_unique<eng::Board>(nullptr);
+        first.board->setPencilMarksRules(rules);
+        if (!first.board->generate(eng::lvlMedium)) first.board.reset();
+        return first;
     });
     installBoardAccessibility();
     {
@@ -120,13 +121,15 @@ SudokuWindow::SudokuWindow(QWidget* parent)
         puzzleClipboard->paste(board != nullptr);
     });
 
-    startFirstGame(firstGame.get());
-    setLevelLabel(eng::lvlMedium);
+    KeptGame::Game first = firstGame.get();
+    startFirstGame(first);
     Tile::drawPreviews(tiles, 81);
     icons.apply(this);
+    if (keptGame) keptGame->attach(this, first);
 }
 
 SudokuWindow::~SudokuWindow() {
+    if (keptGame) keptGame->keepNow();
     qApp->removeEventFilter(this);
     hideCaretIfAny();
     delete board;
@@ -135,10 +138,10 @@ SudokuWindow::~SudokuWindow() {
 }
 
 // The option dialogs are built when first needed; until then the pencil-mark
-// rules are the dialog's initial choice.
+// rules are those the dialog starts with: its initial choice, or a kept game's.
 PencilMarksOptions& SudokuWindow::pencilMarksDialog() {
     if (!pencilMarksOptions) {
-        pencilMarksOptions = std::make_unique<PencilMarksOptions>(nullptr);
+        pencilMarksOptions = std::make_unique<PencilMarksOptions>(nullptr, rulesBeforeDialog);
         connect(pencilMarksOptions.get(), &PencilMarksOptions::applyRule, this, &SudokuWindow::applyPencilmarksRule);
         connect(pencilMarksOptions.get(), &PencilMarksOptions::applyRules, this, &SudokuWindow::applyPencilmarksRules);
     }
@@ -146,7 +149,7 @@ PencilMarksOptions& SudokuWindow::pencilMarksDialog() {
 }
 
 std::list<eng::Rules> SudokuWindow::selectedRules() const {
-    return pencilMarksOptions ? pencilMarksOptions->selectedRules() : PencilMarksOptions::initialRules();
+    return pencilMarksOptions ? pencilMarksOptions->selectedRules() : rulesBeforeDialog;
 }
 
 PrintingInfo& SudokuWindow::printingOptions() {
@@ -258,6 +261,7 @@ void SudokuWindow::runDeferred() {
 void SudokuWindow::cellsChanged(const std::vector<eng::CellInfo*>& cells) {
     BusyScope scope(busy);
     updateTiles(cells, markChanges);
+    if (keptGame) keptGame->changed();
     repaintNow();
 }
 
@@ -312,10 +316,11 @@ void SudokuWindow::potentialRefused(int index, int value) {
     tiles[index]->flashPotential(value);
 }
 
-// What the first frame could do without: the tiles' forms, and the sound,
-// loaded now so that the first refusal is heard at once.
+// What the first frame could do without: the tiles' forms, the pencil marks of
+// a kept game, and the sound, loaded now so that the first refusal is heard at once.
 void SudokuWindow::afterFirstPaint() {
     buildTileForms();
+    for (Tile* tile : tiles) tile->showPencilMarks(pencilMarksShown());
     prepareRefusalSound();
 }
 
@@ -427,17 +432,21 @@ bool SudokuWindow::newGameStep(int level, bool skipConfirmation) {
     return true;
 }
 
-// The first game reaches the window's board as a saved game would; a failed
-// generation is tried again here, where it can be reported.
-void SudokuWindow::startFirstGame(const std::string& saved) {
-    if (saved.empty()) {
+// The first game's board, made on the second thread, becomes the window's; a
+// failed generation is tried again here, where it can be reported. A kept game
+// brings back its rules, level label and pencil marks too.
+void SudokuWindow::startFirstGame(KeptGame::Game& first) {
+    if (first.restored) rulesBeforeDialog = first.chosenRules;
+    setLevelLabel(first.level);
+    if (!first.board) {
         newGameStep(eng::lvlMedium, true);
         return;
     }
-    replaceBoard();
-    std::istringstream in(saved);
-    BusyScope scope(busy);
-    board->deserialize(in);
+    delete board;
+    board = first.board.release();
+    board->setObserver(this);
+    showWholeBoard();
+    ui->actionViewPencilMarks->setChecked(first.pencilMarksShown);  // the tiles show them after the first frame
 }
 
 // A new board, reporting to this window and resolving pencil marks by the chosen rules.
@@ -602,6 +611,7 @@ void SudokuWindow::setRules(const std::list<eng::Rules>& rules) {
     markChanges = true;
     board->setPencilMarksRules(rules);
     markChanges = false;
+    if (keptGame) keptGame->changed();
 }
 
 // Lights up the cells of each value in turn, then congratulates.
@@ -653,6 +663,7 @@ void SudokuWindow::viewAboutIcon(bool checked) { ui->actionAbout->setVisible(che
 
 void SudokuWindow::viewPencilMarks(bool checked) {
     for (Tile* tile : tiles) tile->showPencilMarks(checked);
+    if (keptGame) keptGame->changed();
 }
 
 void SudokuWindow::viewPencilMarksOptions() {
@@ -703,6 +714,7 @@ void SudokuWindow::openGame() {
             board = next;
             lastCaretIndex = -1;
             showWholeBoard();
+            if (keptGame) keptGame->changed();
         } else {
             delete next;
         }

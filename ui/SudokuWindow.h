@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "Board.h"
+#include "KeptGame.h"
 #include "PencilMarksOptions.h"
 #include "PrintingInfo.h"
 #include "Tile.h"
@@ -26,7 +27,8 @@ class SudokuWindow : public QMainWindow, public eng::BoardObserver {
     Q_OBJECT
 
 public:
-    explicit SudokuWindow(QWidget* parent = nullptr);
+    // With a keptGame, the window starts with the game it keeps and keeps every change.
+    explicit SudokuWindow(QWidget* parent = nullptr, KeptGame* keptGame = nullptr);
     ~SudokuWindow() override;
 
     // eng::BoardObserver
@@ -54,6 +56,9 @@ public:
     // The level label's state: a level 0-5, or eng::gradeExpert.
     void setLevelLabel(int level);
     int labelLevel() const { return shownLevel; }
+    bool pencilMarksShown() const;
+    // The pencil-mark rules new games get.
+    std::list<eng::Rules> selectedRules() const;
     // A4 portrait, full page, no margins: how every print starts.
     static void preparePrinter(QPrinter& printer);
     // Also while input held back meanwhile is still to be carried out.
@@ -129,6 +134,8 @@ private:
     const QEvent* replayedKey = nullptr;
     FileNameProvider fileNameProvider;
     PuzzleClipboard* puzzleClipboard = nullptr;
+    KeptGame* keptGame = nullptr;
+    std::list<eng::Rules> rulesBeforeDialog = PencilMarksOptions::initialRules();
     int shownLevel = eng::lvlMedium;
 
     class BusyScope {
@@ -143,7 +150,7 @@ private:
     };
 
     bool newGameStep(int level, bool skipConfirmation);
-    void startFirstGame(const std::string& saved);
+    void startFirstGame(KeptGame::Game& first);
     void replaceBoard();
     void newGameCommand(int level);
     void setHighlight(int value);
@@ -161,7 +168,6 @@ private:
     void buildTileForms();
     void prepareRefusalSound();
     void showWholeBoard();
-    bool pencilMarksShown() const;
     void playRefusalSound();
     void showMessage(int icon, const QString& text);
     QString askFileName(FileRequest request);
@@ -172,7 +178,6 @@ private:
     void reapplyHighlight();
     void redrawTile(int index);
     void setRules(const std::list<eng::Rules>& rules);
-    std::list<eng::Rules> selectedRules() const;
 
     void printOnePerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter, QPrinter* printer);
     void printTwoPerPage(const QRectF& pageMm, const QRectF& pageDevice, QPainter& painter);

@@ -151,6 +151,8 @@ void Tile::buildForm() {
 void Tile::drawPreviews(Tile* const* tiles, int count) {
     std::unique_ptr<Tile> model;
     QHash<int, QPixmap> looks;
+    // The white looks first, then the grey ones: the model changes its sheet once.
+    for (const bool givens : {false, true})
     for (int i = 0; i < count; ++i) {
         Tile* tile = tiles[i];
         if (tile->ui) continue;
@@ -159,6 +161,7 @@ void Tile::drawPreviews(Tile* const* tiles, int count) {
             continue;
         }
         const eng::CellInfo& cell = *tile->recorded;
+        if ((cell.origin() == eng::originGiven) != givens) continue;
         const int look = cell.value() | (cell.origin() == eng::originGiven ? 16 : 0);
         auto found = looks.constFind(look);
         if (found == looks.constEnd()) {

@@ -13,7 +13,8 @@ int main(int argc, char** argv) {
     const Translations translations;
     // Lets the desktop match the window to the installed entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));
-    SudokuWindow window;
+    KeptGame keptGame;  // outlives the window, which hands it the game on closing
+    SudokuWindow window(nullptr, &keptGame);
     showAtStartUp(window);
     return app.exec();
 }

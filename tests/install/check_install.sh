@@ -30,7 +30,7 @@ for size in 48 128 256; do
     fail "no ${size}px hicolor icon $icon"
 done
 status=0  # the program starts and keeps running until it is stopped
-QT_QPA_PLATFORM=offscreen timeout 5 "$program" 2>/dev/null || status=$?
+XDG_DATA_HOME=$tmp/data QT_QPA_PLATFORM=offscreen timeout 5 "$program" 2>/dev/null || status=$?
 ((status == 124)) || fail "the installed program ended with status $status"
 
 (cd "$tmp" && cpack --config "$build/CPackConfig.cmake" -B "$tmp/deb" >/dev/null)

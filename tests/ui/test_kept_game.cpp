@@ -1,0 +1,129 @@
+// The game in progress outlives the program: killed and started again, or kept
+// in a damaged file, a finished game, a read-only folder.
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <sstream>
+
+#include "WindowTestSupport.h"
+
+namespace {
+
+// What a kept file holds: the extras, and the board.
+struct Kept {
+    KeptGame::Game game;
+    eng::Board board{nullptr};
+    explicit Kept(const QString& path) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly) && KeptGame::decode(file.readAll(), game)) {
+            std::istringstream in(game.saved, std::ios::binary);
+            board.deserialize(in);
+        }
+    }
+};
+
+void write(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+}  // namespace
+
+class TestKeptGame : public QObject {
+    Q_OBJECT
+    QTemporaryDir home;
+    QString path = home.path() + "/sudoku-vantu/game-in-progress.sud";
+
+private slots:
+    // The real program, on xcb: a digit typed, SIGKILL, a start again and Retract Move.
+    void killedGameComesBack() {
+        const KeptGame::Game extras{
+            {}, eng::lvlHard, true, {eng::ruleSingles, eng::ruleDoubles}, {eng::ruleDoubles}, false, false, false, {}};
+        eng::Board seed(nullptr);
+        seed.setPencilMarksRules(extras.boardRules);
+        QVERIFY(seed.generate(eng::lvlHard) && seed.makeMove());
+        write(path, KeptGame::encode(seed, extras));
+        int cell = 0;
+        while (seed.cell(cell)->value()) ++cell;
+        const size_t moves = seed.historySize();
+        qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+        QProcess game;
+        for (const QStringList& keys : {QStringList{"Right", QString::number(seed.solutionValue(cell))},
+                                        QStringList{"alt+g", "r"}}) {
+            game.start(SUDOKU_GAME, QStringList());
+            QProcess::execute("xdotool", {"search", "--sync", "--name", "^Sudoku Vantu$", "windowactivate", "--sync"});
+            QCOMPARE(QProcess::execute("xdotool", QStringList{"key", "--clearmodifiers"} + keys), 0);
+            const bool retracted = keys[0] == "alt+g";
+            QTRY_VERIFY_WITH_TIMEOUT(Kept(path).board.undoneSize() == retracted &&
+                                         Kept(path).board.historySize() == moves + !retracted, 20000);
+            game.kill();
+            QVERIFY(game.waitForFinished());
+            const Kept back(path);
+            QCOMPARE(back.board.cell(cell)->value(), retracted ? 0 : seed.solutionValue(cell));
+            QVERIFY(back.game.pencilMarksShown && back.game.level == extras.level &&
+                    back.game.chosenRules == extras.chosenRules && back.game.boardRules == extras.boardRules);
+        }
+    }
+
+    void damagedOrFinishedGame_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("damaged");
+        eng::Board board(nullptr);
+        board.generate(eng::lvlMedium);
+        const QByteArray good = KeptGame::encode(board, {});
+        board.generate(eng::lvlCompleted);
+        QTest::newRow("finished") << KeptGame::encode(board, {}) << false;
+        QTest::newRow("not a kept game") << QByteArray("81 digits?") << true;
+        QTest::newRow("cut short") << good.left(good.size() - 20) << true;
+        QTest::newRow("a byte changed") << QByteArray(good).replace(100, 1, "\x7f") << true;
+    }
+
+    // The usual Medium start; a damaged file is renamed, whole, and the status bar says so.
+    void damagedOrFinishedGame() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, damaged);
+        QTemporaryDir dir;
+        write(dir.filePath("game.sud"), bytes);
+        KeptGame keptGame(dir.filePath("game.sud"));
+        SudokuWindow w(nullptr, &keptGame);
+        QVERIFY(w.levelText() == "difficulty: Medium" && w.currentBoard()->getLevel() == eng::lvlMedium);
+        QCOMPARE(w.statusBar()->currentMessage().isEmpty(), !damaged);
+        const QStringList aside = QDir(dir.path()).entryList({"game.damaged-*.sud"});
+        QCOMPARE(aside.size(), int(damaged));
+        QFile kept(dir.filePath(damaged ? aside.value(0) : "game.sud"));
+        QVERIFY(kept.open(QIODevice::ReadOnly) && kept.readAll() == bytes);
+    }
+
+    // Play goes on; the status bar says once that the game cannot be kept. One write a second at most.
+    void readOnlyFolder() {
+        QTemporaryDir dir;
+        const QByteArray folder = dir.path().toLocal8Bit();
+        const bool mounted = mount("tmpfs", folder.constData(), "tmpfs", MS_RDONLY, "size=64k") == 0;
+        const auto restore = qScopeGuard([&] { mounted ? umount2(folder.constData(), MNT_DETACH) : chmod(folder.constData(), 0700); });
+        if (!mounted) chmod(folder.constData(), 0500);
+        if (access(folder.constData(), W_OK) == 0) QSKIP("no read-only folder can be made here");
+        KeptGame keptGame(dir.filePath("sudoku-vantu/game.sud"));
+        SudokuWindow w(nullptr, &keptGame);
+        QSignalSpy messages(w.statusBar(), &QStatusBar::messageChanged);
+        std::vector<qint64> failed;  // when
+        QElapsedTimer clock;
+        clock.start();
+        connect(&keptGame, &KeptGame::written, [&](bool ok) { failed.push_back(ok ? -1 : clock.elapsed()); });
+        const size_t moves = w.currentBoard()->historySize();
+        for (size_t writes = 1; writes <= 2; ++writes) {
+            w.makeMove();
+            w.makeMove();
+            QTRY_COMPARE_WITH_TIMEOUT(failed.size(), writes, 10000);
+        }
+        QVERIFY(failed[0] >= 0 && failed[1] >= 1000);  // the second a second after the first at least
+        QCOMPARE(messages.count(), 1);
+        QCOMPARE(w.currentBoard()->historySize(), moves + 4);
+    }
+};
+
+QTEST_MAIN(TestKeptGame)
+#include "test_kept_game.moc"
