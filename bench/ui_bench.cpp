@@ -8,6 +8,7 @@
 // scripts/with-display.sh for xcb.
 #include <benchmark/benchmark.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -42,6 +43,7 @@ double percentile(std::vector<double> samples, double p) {
 void report(benchmark::State& state, const std::vector<double>& millis) {
     state.counters["median_ms"] = percentile(millis, 0.5);
     state.counters["p99_ms"] = percentile(millis, 0.99);
+    state.counters["reader"] = QAccessible::isActive();  // 1: a screen reader listens, and is told of each move
 }
 
 double msSince(const QElapsedTimer& timer) { return timer.nsecsElapsed() / 1e6; }

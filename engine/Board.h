@@ -102,6 +102,9 @@ public:
     const CellInfo* cell(int index) const;
     // The stored solution's value of a cell, 0 when there is none (never throws).
     int solutionValue(int index) const;
+    // A cell of the current position in the row, else the column, else the
+    // square of `index` (not that cell itself) holding `value`; -1 when none does.
+    int clashingCell(int index, int value) const;
     const eng_priv::MasterSolution& solution() const { return masterSolution; }
     const std::list<Rules>& pencilMarksRulesList() const { return pencilMarksRules; }
 

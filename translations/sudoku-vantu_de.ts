@@ -17,6 +17,89 @@
     </message>
 </context>
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>candidate %1 back</source>
+        <translation>Kandidat %1 wieder da</translation>
+    </message>
+    <message>
+        <source>candidate %1 removed</source>
+        <translation>Kandidat %1 entfernt</translation>
+    </message>
+    <message>
+        <source>The board is complete</source>
+        <translation>Das Spielfeld ist vollständig</translation>
+    </message>
+    <message>
+        <source>%1 refused: the board would have no solution</source>
+        <translation>%1 abgelehnt: das Spielfeld hätte keine Lösung</translation>
+    </message>
+    <message>
+        <source>%1 refused: not this cell&apos;s digit</source>
+        <translation>%1 abgelehnt: nicht die Ziffer dieses Felds</translation>
+    </message>
+    <message>
+        <source>%1 refused: row %2 already has %1 at column %3</source>
+        <translation>%1 abgelehnt: Zeile %2 hat schon %1 in Spalte %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: column %2 already has %1 at row %3</source>
+        <translation>%1 abgelehnt: Spalte %2 hat schon %1 in Zeile %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: box %2 already has %1 at row %3, column %4</source>
+        <extracomment>%2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands</extracomment>
+        <translation>%1 abgelehnt: Block %2 hat schon %1 in Zeile %3, Spalte %4</translation>
+    </message>
+    <message>
+        <source>candidate %1 refused</source>
+        <translation>Kandidat %1 abgelehnt</translation>
+    </message>
+    <message>
+        <source>Game opened, %1, %2 empty cells</source>
+        <extracomment>%1 is the level label (&quot;difficulty: Medium&quot;), %2 how many cells are empty</extracomment>
+        <translation>Spiel geöffnet, %1, %2 leere Felder</translation>
+    </message>
+    <message>
+        <source>New game, %1, %2 empty cells</source>
+        <translation>Neues Spiel, %1, %2 leere Felder</translation>
+    </message>
+    <message>
+        <source>Keys: R, C and B read the caret&apos;s row, column and box, N what is left to place</source>
+        <translation>Tasten: R, C und B lesen Zeile, Spalte und Block des Cursors, N was noch zu setzen ist</translation>
+    </message>
+    <message>
+        <source>%1 of digit %2</source>
+        <extracomment>%1 how many of the digit %2 are still to be placed</extracomment>
+        <translation>%1-mal die %2</translation>
+    </message>
+    <message>
+        <source>Every digit is placed</source>
+        <translation>Alle Ziffern sind gesetzt</translation>
+    </message>
+    <message>
+        <source>Still to place: %1</source>
+        <translation>Noch zu setzen: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <extracomment>%2 lists the nine cells in order, such as &quot;7, empty, 4&quot;</extracomment>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Column %1: %2</source>
+        <translation>Spalte %1: %2</translation>
+    </message>
+    <message>
+        <source>Box %1: %2</source>
+        <translation>Block %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>HintController</name>
     <message>
         <source>%1 and %2</source>

@@ -17,6 +17,89 @@
     </message>
 </context>
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>candidate %1 back</source>
+        <translation>candidato %1 restaurado</translation>
+    </message>
+    <message>
+        <source>candidate %1 removed</source>
+        <translation>candidato %1 quitado</translation>
+    </message>
+    <message>
+        <source>The board is complete</source>
+        <translation>El tablero está completo</translation>
+    </message>
+    <message>
+        <source>%1 refused: the board would have no solution</source>
+        <translation>%1 rechazado: el tablero quedaría sin solución</translation>
+    </message>
+    <message>
+        <source>%1 refused: not this cell&apos;s digit</source>
+        <translation>%1 rechazado: no es el número de esta casilla</translation>
+    </message>
+    <message>
+        <source>%1 refused: row %2 already has %1 at column %3</source>
+        <translation>%1 rechazado: la fila %2 ya tiene %1 en la columna %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: column %2 already has %1 at row %3</source>
+        <translation>%1 rechazado: la columna %2 ya tiene %1 en la fila %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: box %2 already has %1 at row %3, column %4</source>
+        <extracomment>%2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands</extracomment>
+        <translation>%1 rechazado: el bloque %2 ya tiene %1 en la fila %3, columna %4</translation>
+    </message>
+    <message>
+        <source>candidate %1 refused</source>
+        <translation>candidato %1 rechazado</translation>
+    </message>
+    <message>
+        <source>Game opened, %1, %2 empty cells</source>
+        <extracomment>%1 is the level label (&quot;difficulty: Medium&quot;), %2 how many cells are empty</extracomment>
+        <translation>Partida abierta, %1, %2 casillas vacías</translation>
+    </message>
+    <message>
+        <source>New game, %1, %2 empty cells</source>
+        <translation>Nueva partida, %1, %2 casillas vacías</translation>
+    </message>
+    <message>
+        <source>Keys: R, C and B read the caret&apos;s row, column and box, N what is left to place</source>
+        <translation>Teclas: R, C y B leen la fila, la columna y el bloque del cursor, N lo que falta por colocar</translation>
+    </message>
+    <message>
+        <source>%1 of digit %2</source>
+        <extracomment>%1 how many of the digit %2 are still to be placed</extracomment>
+        <translation>%1 veces el %2</translation>
+    </message>
+    <message>
+        <source>Every digit is placed</source>
+        <translation>Todos los números están colocados</translation>
+    </message>
+    <message>
+        <source>Still to place: %1</source>
+        <translation>Falta por colocar: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacía</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <extracomment>%2 lists the nine cells in order, such as &quot;7, empty, 4&quot;</extracomment>
+        <translation>Fila %1: %2</translation>
+    </message>
+    <message>
+        <source>Column %1: %2</source>
+        <translation>Columna %1: %2</translation>
+    </message>
+    <message>
+        <source>Box %1: %2</source>
+        <translation>Bloque %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>HintController</name>
     <message>
         <source>%1 and %2</source>

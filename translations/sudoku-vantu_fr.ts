@@ -17,6 +17,89 @@
     </message>
 </context>
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>candidate %1 back</source>
+        <translation>candidat %1 rétabli</translation>
+    </message>
+    <message>
+        <source>candidate %1 removed</source>
+        <translation>candidat %1 retiré</translation>
+    </message>
+    <message>
+        <source>The board is complete</source>
+        <translation>La grille est complète</translation>
+    </message>
+    <message>
+        <source>%1 refused: the board would have no solution</source>
+        <translation>%1 refusé : la grille n’aurait plus de solution</translation>
+    </message>
+    <message>
+        <source>%1 refused: not this cell&apos;s digit</source>
+        <translation>%1 refusé : ce n’est pas le chiffre de cette case</translation>
+    </message>
+    <message>
+        <source>%1 refused: row %2 already has %1 at column %3</source>
+        <translation>%1 refusé : la ligne %2 a déjà %1 en colonne %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: column %2 already has %1 at row %3</source>
+        <translation>%1 refusé : la colonne %2 a déjà %1 en ligne %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: box %2 already has %1 at row %3, column %4</source>
+        <extracomment>%2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands</extracomment>
+        <translation>%1 refusé : le bloc %2 a déjà %1 en ligne %3, colonne %4</translation>
+    </message>
+    <message>
+        <source>candidate %1 refused</source>
+        <translation>candidat %1 refusé</translation>
+    </message>
+    <message>
+        <source>Game opened, %1, %2 empty cells</source>
+        <extracomment>%1 is the level label (&quot;difficulty: Medium&quot;), %2 how many cells are empty</extracomment>
+        <translation>Partie ouverte, %1, %2 cases vides</translation>
+    </message>
+    <message>
+        <source>New game, %1, %2 empty cells</source>
+        <translation>Nouvelle partie, %1, %2 cases vides</translation>
+    </message>
+    <message>
+        <source>Keys: R, C and B read the caret&apos;s row, column and box, N what is left to place</source>
+        <translation>Touches : R, C et B lisent la ligne, la colonne et le bloc du curseur, N ce qui reste à placer</translation>
+    </message>
+    <message>
+        <source>%1 of digit %2</source>
+        <extracomment>%1 how many of the digit %2 are still to be placed</extracomment>
+        <translation>%1 fois le %2</translation>
+    </message>
+    <message>
+        <source>Every digit is placed</source>
+        <translation>Tous les chiffres sont placés</translation>
+    </message>
+    <message>
+        <source>Still to place: %1</source>
+        <translation>Reste à placer : %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <extracomment>%2 lists the nine cells in order, such as &quot;7, empty, 4&quot;</extracomment>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>Column %1: %2</source>
+        <translation>Colonne %1 : %2</translation>
+    </message>
+    <message>
+        <source>Box %1: %2</source>
+        <translation>Bloc %1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>HintController</name>
     <message>
         <source>%1 and %2</source>

@@ -17,6 +17,89 @@
     </message>
 </context>
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>candidate %1 back</source>
+        <translation>candidato %1 ripristinato</translation>
+    </message>
+    <message>
+        <source>candidate %1 removed</source>
+        <translation>candidato %1 tolto</translation>
+    </message>
+    <message>
+        <source>The board is complete</source>
+        <translation>La griglia è completa</translation>
+    </message>
+    <message>
+        <source>%1 refused: the board would have no solution</source>
+        <translation>%1 rifiutato: la griglia non avrebbe soluzione</translation>
+    </message>
+    <message>
+        <source>%1 refused: not this cell&apos;s digit</source>
+        <translation>%1 rifiutato: non è la cifra di questa casella</translation>
+    </message>
+    <message>
+        <source>%1 refused: row %2 already has %1 at column %3</source>
+        <translation>%1 rifiutato: la riga %2 ha già %1 nella colonna %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: column %2 already has %1 at row %3</source>
+        <translation>%1 rifiutato: la colonna %2 ha già %1 nella riga %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: box %2 already has %1 at row %3, column %4</source>
+        <extracomment>%2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands</extracomment>
+        <translation>%1 rifiutato: il riquadro %2 ha già %1 nella riga %3, colonna %4</translation>
+    </message>
+    <message>
+        <source>candidate %1 refused</source>
+        <translation>candidato %1 rifiutato</translation>
+    </message>
+    <message>
+        <source>Game opened, %1, %2 empty cells</source>
+        <extracomment>%1 is the level label (&quot;difficulty: Medium&quot;), %2 how many cells are empty</extracomment>
+        <translation>Partita aperta, %1, %2 caselle vuote</translation>
+    </message>
+    <message>
+        <source>New game, %1, %2 empty cells</source>
+        <translation>Nuova partita, %1, %2 caselle vuote</translation>
+    </message>
+    <message>
+        <source>Keys: R, C and B read the caret&apos;s row, column and box, N what is left to place</source>
+        <translation>Tasti: R, C e B leggono riga, colonna e riquadro del cursore, N quanto resta da inserire</translation>
+    </message>
+    <message>
+        <source>%1 of digit %2</source>
+        <extracomment>%1 how many of the digit %2 are still to be placed</extracomment>
+        <translation>%1 volte il %2</translation>
+    </message>
+    <message>
+        <source>Every digit is placed</source>
+        <translation>Tutte le cifre sono inserite</translation>
+    </message>
+    <message>
+        <source>Still to place: %1</source>
+        <translation>Resta da inserire: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vuota</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <extracomment>%2 lists the nine cells in order, such as &quot;7, empty, 4&quot;</extracomment>
+        <translation>Riga %1: %2</translation>
+    </message>
+    <message>
+        <source>Column %1: %2</source>
+        <translation>Colonna %1: %2</translation>
+    </message>
+    <message>
+        <source>Box %1: %2</source>
+        <translation>Riquadro %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>HintController</name>
     <message>
         <source>%1 and %2</source>

@@ -17,6 +17,89 @@
     </message>
 </context>
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>candidate %1 back</source>
+        <translation>候補 %1 を戻しました</translation>
+    </message>
+    <message>
+        <source>candidate %1 removed</source>
+        <translation>候補 %1 を消しました</translation>
+    </message>
+    <message>
+        <source>The board is complete</source>
+        <translation>盤面が完成しました</translation>
+    </message>
+    <message>
+        <source>%1 refused: the board would have no solution</source>
+        <translation>%1 は入りません: 盤面の解がなくなります</translation>
+    </message>
+    <message>
+        <source>%1 refused: not this cell&apos;s digit</source>
+        <translation>%1 は入りません: このマスの数字ではありません</translation>
+    </message>
+    <message>
+        <source>%1 refused: row %2 already has %1 at column %3</source>
+        <translation>%1 は入りません: %2 行の %3 列に %1 があります</translation>
+    </message>
+    <message>
+        <source>%1 refused: column %2 already has %1 at row %3</source>
+        <translation>%1 は入りません: %2 列の %3 行に %1 があります</translation>
+    </message>
+    <message>
+        <source>%1 refused: box %2 already has %1 at row %3, column %4</source>
+        <extracomment>%2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands</extracomment>
+        <translation>%1 は入りません: ブロック %2 の %3 行 %4 列に %1 があります</translation>
+    </message>
+    <message>
+        <source>candidate %1 refused</source>
+        <translation>候補 %1 は変更できません</translation>
+    </message>
+    <message>
+        <source>Game opened, %1, %2 empty cells</source>
+        <extracomment>%1 is the level label (&quot;difficulty: Medium&quot;), %2 how many cells are empty</extracomment>
+        <translation>ゲームを開きました、%1、空きマス %2</translation>
+    </message>
+    <message>
+        <source>New game, %1, %2 empty cells</source>
+        <translation>新しいゲーム、%1、空きマス %2</translation>
+    </message>
+    <message>
+        <source>Keys: R, C and B read the caret&apos;s row, column and box, N what is left to place</source>
+        <translation>キー: R・C・B でカーソルの行・列・ブロック、N で残りの数字を読み上げます</translation>
+    </message>
+    <message>
+        <source>%1 of digit %2</source>
+        <extracomment>%1 how many of the digit %2 are still to be placed</extracomment>
+        <translation>%2 があと %1 個</translation>
+    </message>
+    <message>
+        <source>Every digit is placed</source>
+        <translation>すべての数字が入りました</translation>
+    </message>
+    <message>
+        <source>Still to place: %1</source>
+        <translation>残り: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空き</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <extracomment>%2 lists the nine cells in order, such as &quot;7, empty, 4&quot;</extracomment>
+        <translation>%1 行: %2</translation>
+    </message>
+    <message>
+        <source>Column %1: %2</source>
+        <translation>%1 列: %2</translation>
+    </message>
+    <message>
+        <source>Box %1: %2</source>
+        <translation>ブロック %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>HintController</name>
     <message>
         <source>%1 and %2</source>

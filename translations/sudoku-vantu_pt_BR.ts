@@ -17,6 +17,89 @@
     </message>
 </context>
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>candidate %1 back</source>
+        <translation>candidato %1 de volta</translation>
+    </message>
+    <message>
+        <source>candidate %1 removed</source>
+        <translation>candidato %1 removido</translation>
+    </message>
+    <message>
+        <source>The board is complete</source>
+        <translation>O tabuleiro está completo</translation>
+    </message>
+    <message>
+        <source>%1 refused: the board would have no solution</source>
+        <translation>%1 recusado: o tabuleiro ficaria sem solução</translation>
+    </message>
+    <message>
+        <source>%1 refused: not this cell&apos;s digit</source>
+        <translation>%1 recusado: não é o número desta casa</translation>
+    </message>
+    <message>
+        <source>%1 refused: row %2 already has %1 at column %3</source>
+        <translation>%1 recusado: a linha %2 já tem %1 na coluna %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: column %2 already has %1 at row %3</source>
+        <translation>%1 recusado: a coluna %2 já tem %1 na linha %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: box %2 already has %1 at row %3, column %4</source>
+        <extracomment>%2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands</extracomment>
+        <translation>%1 recusado: o bloco %2 já tem %1 na linha %3, coluna %4</translation>
+    </message>
+    <message>
+        <source>candidate %1 refused</source>
+        <translation>candidato %1 recusado</translation>
+    </message>
+    <message>
+        <source>Game opened, %1, %2 empty cells</source>
+        <extracomment>%1 is the level label (&quot;difficulty: Medium&quot;), %2 how many cells are empty</extracomment>
+        <translation>Jogo aberto, %1, %2 casas vazias</translation>
+    </message>
+    <message>
+        <source>New game, %1, %2 empty cells</source>
+        <translation>Novo jogo, %1, %2 casas vazias</translation>
+    </message>
+    <message>
+        <source>Keys: R, C and B read the caret&apos;s row, column and box, N what is left to place</source>
+        <translation>Teclas: R, C e B leem a linha, a coluna e o bloco do cursor, N o que falta colocar</translation>
+    </message>
+    <message>
+        <source>%1 of digit %2</source>
+        <extracomment>%1 how many of the digit %2 are still to be placed</extracomment>
+        <translation>%1 vezes o %2</translation>
+    </message>
+    <message>
+        <source>Every digit is placed</source>
+        <translation>Todos os números estão colocados</translation>
+    </message>
+    <message>
+        <source>Still to place: %1</source>
+        <translation>Falta colocar: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vazia</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <extracomment>%2 lists the nine cells in order, such as &quot;7, empty, 4&quot;</extracomment>
+        <translation>Linha %1: %2</translation>
+    </message>
+    <message>
+        <source>Column %1: %2</source>
+        <translation>Coluna %1: %2</translation>
+    </message>
+    <message>
+        <source>Box %1: %2</source>
+        <translation>Bloco %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>HintController</name>
     <message>
         <source>%1 and %2</source>

@@ -17,6 +17,89 @@
     </message>
 </context>
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>candidate %1 back</source>
+        <translation>кандидат %1 возвращён</translation>
+    </message>
+    <message>
+        <source>candidate %1 removed</source>
+        <translation>кандидат %1 убран</translation>
+    </message>
+    <message>
+        <source>The board is complete</source>
+        <translation>Поле заполнено</translation>
+    </message>
+    <message>
+        <source>%1 refused: the board would have no solution</source>
+        <translation>%1 не принято: у поля не было бы решения</translation>
+    </message>
+    <message>
+        <source>%1 refused: not this cell&apos;s digit</source>
+        <translation>%1 не принято: это не цифра этой клетки</translation>
+    </message>
+    <message>
+        <source>%1 refused: row %2 already has %1 at column %3</source>
+        <translation>%1 не принято: в строке %2 уже есть %1 в столбце %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: column %2 already has %1 at row %3</source>
+        <translation>%1 не принято: в столбце %2 уже есть %1 в строке %3</translation>
+    </message>
+    <message>
+        <source>%1 refused: box %2 already has %1 at row %3, column %4</source>
+        <extracomment>%2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands</extracomment>
+        <translation>%1 не принято: в блоке %2 уже есть %1 в строке %3, столбце %4</translation>
+    </message>
+    <message>
+        <source>candidate %1 refused</source>
+        <translation>кандидат %1 не принят</translation>
+    </message>
+    <message>
+        <source>Game opened, %1, %2 empty cells</source>
+        <extracomment>%1 is the level label (&quot;difficulty: Medium&quot;), %2 how many cells are empty</extracomment>
+        <translation>Игра открыта, %1, пустых клеток: %2</translation>
+    </message>
+    <message>
+        <source>New game, %1, %2 empty cells</source>
+        <translation>Новая игра, %1, пустых клеток: %2</translation>
+    </message>
+    <message>
+        <source>Keys: R, C and B read the caret&apos;s row, column and box, N what is left to place</source>
+        <translation>Клавиши: R, C и B читают строку, столбец и блок курсора, N — сколько осталось поставить</translation>
+    </message>
+    <message>
+        <source>%1 of digit %2</source>
+        <extracomment>%1 how many of the digit %2 are still to be placed</extracomment>
+        <translation>%2 — ещё %1</translation>
+    </message>
+    <message>
+        <source>Every digit is placed</source>
+        <translation>Все цифры расставлены</translation>
+    </message>
+    <message>
+        <source>Still to place: %1</source>
+        <translation>Осталось поставить: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>пусто</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <extracomment>%2 lists the nine cells in order, such as &quot;7, empty, 4&quot;</extracomment>
+        <translation>Строка %1: %2</translation>
+    </message>
+    <message>
+        <source>Column %1: %2</source>
+        <translation>Столбец %1: %2</translation>
+    </message>
+    <message>
+        <source>Box %1: %2</source>
+        <translation>Блок %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>HintController</name>
     <message>
         <source>%1 and %2</source>

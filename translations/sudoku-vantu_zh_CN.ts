@@ -17,6 +17,89 @@
     </message>
 </context>
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>candidate %1 back</source>
+        <translation>候选数 %1 已恢复</translation>
+    </message>
+    <message>
+        <source>candidate %1 removed</source>
+        <translation>候选数 %1 已删除</translation>
+    </message>
+    <message>
+        <source>The board is complete</source>
+        <translation>盘面已完成</translation>
+    </message>
+    <message>
+        <source>%1 refused: the board would have no solution</source>
+        <translation>%1 被拒绝：盘面将无解</translation>
+    </message>
+    <message>
+        <source>%1 refused: not this cell&apos;s digit</source>
+        <translation>%1 被拒绝：不是此格的数字</translation>
+    </message>
+    <message>
+        <source>%1 refused: row %2 already has %1 at column %3</source>
+        <translation>%1 被拒绝：第 %2 行已在第 %3 列有 %1</translation>
+    </message>
+    <message>
+        <source>%1 refused: column %2 already has %1 at row %3</source>
+        <translation>%1 被拒绝：第 %2 列已在第 %3 行有 %1</translation>
+    </message>
+    <message>
+        <source>%1 refused: box %2 already has %1 at row %3, column %4</source>
+        <extracomment>%2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands</extracomment>
+        <translation>%1 被拒绝：第 %2 宫已在第 %3 行第 %4 列有 %1</translation>
+    </message>
+    <message>
+        <source>candidate %1 refused</source>
+        <translation>候选数 %1 被拒绝</translation>
+    </message>
+    <message>
+        <source>Game opened, %1, %2 empty cells</source>
+        <extracomment>%1 is the level label (&quot;difficulty: Medium&quot;), %2 how many cells are empty</extracomment>
+        <translation>已打开游戏，%1，%2 个空格</translation>
+    </message>
+    <message>
+        <source>New game, %1, %2 empty cells</source>
+        <translation>新游戏，%1，%2 个空格</translation>
+    </message>
+    <message>
+        <source>Keys: R, C and B read the caret&apos;s row, column and box, N what is left to place</source>
+        <translation>按键：R、C、B 朗读光标所在的行、列、宫，N 朗读还要填的数字</translation>
+    </message>
+    <message>
+        <source>%1 of digit %2</source>
+        <extracomment>%1 how many of the digit %2 are still to be placed</extracomment>
+        <translation>%2 还差 %1 个</translation>
+    </message>
+    <message>
+        <source>Every digit is placed</source>
+        <translation>所有数字均已填入</translation>
+    </message>
+    <message>
+        <source>Still to place: %1</source>
+        <translation>待填：%1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <extracomment>%2 lists the nine cells in order, such as &quot;7, empty, 4&quot;</extracomment>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Column %1: %2</source>
+        <translation>第 %1 列：%2</translation>
+    </message>
+    <message>
+        <source>Box %1: %2</source>
+        <translation>第 %1 宫：%2</translation>
+    </message>
+</context>
+<context>
     <name>HintController</name>
     <message>
         <source>%1 and %2</source>

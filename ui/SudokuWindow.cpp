@@ -16,6 +16,7 @@
 #include <sstream>
 
 #include "AboutDialog.h"
+#include "Announcer.h"
 #include "ActionIcons.h"
 #include "HintController.h"
 #include "PuzzleClipboard.h"
@@ -81,17 +82,20 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
         connect(tile, &Tile::potentialsEdited, this, &SudokuWindow::tilePotentialsEdited);
         connect(tile, &Tile::moveCaret, this, &SudokuWindow::tileMoveCaret);
     }
+    announcer = new Announcer(this, tiles);
     // Game -> Hint: a hint carried out changes the board as Make Move does.
-    new HintController(this, ui->actionHint, [this](const std::function<void()>& change) {
+    auto* hints = new HintController(this, ui->actionHint, [this](const std::function<void()>& change) {
         if (!board || busy) return;
         {
             BusyScope scope(busy);
+            Announcer::Watch watch(*announcer, board);
             markChanges = true;
             change();
             markChanges = false;
         }
         if (board->isComplete()) celebrate();
     });
+    connect(hints, &HintController::announce, announcer, &Announcer::say);
     // The window is as large as its board and cannot be resized or maximised.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
@@ -114,6 +118,7 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
         board->startGame(givens, solution);
         setLevelLabel(label);
     });
+    connect(puzzleClipboard, &PuzzleClipboard::announce, announcer, &Announcer::say);
     connect(ui->actionCopyPuzzle, &QAction::triggered, this, [this] { puzzleClipboard->copy(board); });
     connect(ui->actionPastePuzzle, &QAction::triggered, this, [this] {
         if (busy) return;
@@ -302,9 +307,10 @@ void SudokuWindow::loadFailed(int expectedVersion, int actualVersion) {
                         .arg(actualVersion));
 }
 
-void SudokuWindow::valueRefused(int index, int) {
+void SudokuWindow::valueRefused(int index, int value) {
     if (index < 0 || index > 80) return;
     BusyScope scope(busy);
+    announcer->valueRefused(*board, index, value);
     playRefusalSound();
     tiles[index]->rejectValue();
 }
@@ -312,6 +318,7 @@ void SudokuWindow::valueRefused(int index, int) {
 void SudokuWindow::potentialRefused(int index, int value) {
     if (index < 0 || index > 80) return;
     BusyScope scope(busy);
+    announcer->candidateRefused(value);
     playRefusalSound();
     tiles[index]->flashPotential(value);
 }
@@ -373,7 +380,8 @@ Tile::CaretMode SudokuWindow::hideCaretIfAny() {
 
 void SudokuWindow::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
-    const bool board = key == Qt::Key_Escape || key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool board = key == Qt::Key_Escape || key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter ||
+                       Announcer::isReadingKey(key);
     if (!board || (event->modifiers() & ~Qt::KeypadModifier)) return QMainWindow::keyPressEvent(event);
     if (mustDefer())
         defer([this, key] { boardKey(key); });
@@ -388,7 +396,9 @@ void SudokuWindow::keyReleaseEvent(QKeyEvent* event) {
 }
 
 void SudokuWindow::boardKey(int key) {
-    if (!board || busy || caretIndex == -1) return;
+    if (!board || busy) return;
+    if (Announcer::isReadingKey(key)) return announcer->read(key, board, caretIndex >= 0 ? caretIndex : lastCaretIndex);
+    if (caretIndex == -1) return;
     Tile* tile = tiles[caretIndex];
     if (key == Qt::Key_Escape) {
         hideCaretIfAny();
@@ -466,7 +476,9 @@ void SudokuWindow::setLevelLabel(int level) {
 
 void SudokuWindow::newGameCommand(int level) {
     if (busy) return;
-    if (newGameStep(level, false)) setLevelLabel(level);
+    if (!newGameStep(level, false)) return;
+    setLevelLabel(level);
+    announcer->gameStarted(board, levelText(), false);
 }
 
 void SudokuWindow::newGameCompleted() { newGameCommand(eng::lvlCompleted); }
@@ -480,6 +492,7 @@ void SudokuWindow::makeMove() {
     if (!board || busy) return;
     {
         BusyScope scope(busy);
+        Announcer::Watch watch(*announcer, board);
         markChanges = true;
         board->makeMove();
         markChanges = false;
@@ -490,6 +503,7 @@ void SudokuWindow::makeMove() {
 void SudokuWindow::retractMove() {
     if (!board || busy) return;
     BusyScope scope(busy);
+    Announcer::Watch watch(*announcer, board);
     board->retract();
 }
 
@@ -540,6 +554,7 @@ void SudokuWindow::enterValue(int index, int value) {
     if (busy) return redrawTile(index);
     {
         BusyScope scope(busy);
+        Announcer::Watch watch(*announcer, board, index);
         markChanges = true;
         board->setValue(index, value);
         markChanges = false;
@@ -557,6 +572,7 @@ void SudokuWindow::tilePotentialsEdited(int liniarAddress, int valueToToggle) {
     if (busy) return redrawTile(liniarAddress);
     // The redrawn tiles take the highlight again in updateTiles.
     BusyScope scope(busy);
+    Announcer::Watch watch(*announcer, board, liniarAddress, valueToToggle);
     board->togglePotential(liniarAddress, valueToToggle);
 }
 
@@ -714,6 +730,7 @@ void SudokuWindow::openGame() {
             board = next;
             lastCaretIndex = -1;
             showWholeBoard();
+            announcer->gameStarted(board, tr(levelLabel(board->getLevel())), true);
             if (keptGame) keptGame->changed();
         } else {
             delete next;

@@ -14,6 +14,7 @@
 #include "PrintingInfo.h"
 #include "Tile.h"
 
+class Announcer;
 class PuzzleClipboard;
 class QPainter;
 class QPrinter;
@@ -125,6 +126,7 @@ private:
     // meanwhile is ignored.
     bool painting = false;
     QSoundEffect* sound = nullptr;
+    Announcer* announcer = nullptr;  // what a screen reader is told of each move
     bool afterFirstPaintQueued = false;
     // Keystrokes and rule applications that arrived while the window was busy,
     // carried out in order as soon as it is idle again.

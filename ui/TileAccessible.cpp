@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include "Announcer.h"
 #include "Tile.h"
 
 namespace {
@@ -36,6 +37,7 @@ public:
     }
     QString text(QAccessible::Text t) const override {
         if (t == QAccessible::Name) return QCoreApplication::translate("Tile", "Sudoku board");
+        if (t == QAccessible::Description) return Announcer::readingKeysHelp();
         return QAccessibleWidget::text(t);
     }
     QAccessible::State state() const override {
@@ -183,6 +185,20 @@ public:
     }
 };
 
+// The labels inside the tiles change their enabled state and visibility with
+// every move, dozens at once. A reader told of them all falls behind and drops
+// what follows (Orca ignores events while more than 100 wait), the spoken
+// result of the move included; silent as they are, their events stay here.
+QAccessible::UpdateHandler passedOn = nullptr;
+void passOn(QAccessibleEvent* event) {
+    for (QObject* o = event->object() ? event->object()->parent() : nullptr; o; o = o->parent())
+        if (qobject_cast<Tile*>(o)) return;
+    if (passedOn) return passedOn(event);
+    QAccessible::installUpdateHandler(nullptr);  // the platform's own route
+    QAccessible::updateAccessibility(event);
+    QAccessible::installUpdateHandler(passOn);
+}
+
 QAccessibleInterface* boardFactory(const QString& key, QObject* object) {
     if (key == QLatin1String("Tile")) return new TileAccessible(static_cast<Tile*>(object));
     auto* widget = qobject_cast<QWidget*>(object);
@@ -202,6 +218,7 @@ void installBoardAccessibility() {
     if (installed) return;
     installed = true;
     QAccessible::installFactory(boardFactory);
+    passedOn = QAccessible::installUpdateHandler(passOn);
 }
 
 // The words go through translation in the context "Tile"; %1 is the row and

@@ -12,15 +12,20 @@ if not shutil.which("xdotool"):
     sys.exit(print("SKIPPED: xdotool is missing") or 77)
 os.makedirs(os.path.dirname(os.path.abspath(sys.argv[2])), exist_ok=True)
 game, report = sys.argv[1], open(sys.argv[2], "w")
-heard = []  # (event, name) of every name change and focus the reader hears of
+heard = []  # (event, name) of every name change, focus and notification the reader hears of
 
 
+# A notification that becomes showing is what Orca 43 speaks of a move's result (name changes of table cells it drops).
 def listen(event):
-    if event.detail1 or "focused" not in event.type:
+    if "showing" in event.type:
+        if event.detail1 and event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
+            heard.append(("notification", event.source.name))
+    elif event.detail1 or "focused" not in event.type:
         heard.append((event.type.split(":")[-1], event.source.name))
 
 
-pyatspi.Registry.registerEventListener(listen, "object:property-change:accessible-name", "object:state-changed:focused")
+pyatspi.Registry.registerEventListener(listen, "object:property-change:accessible-name", "object:state-changed:focused",
+                                       "object:state-changed:showing")
 app_process = subprocess.Popen([game])
 
 
@@ -99,7 +104,7 @@ if not here.name.endswith(": empty") or ("focused", here.name) not in heard:
     fail("the focus on the first empty cell")
 
 # Digits until one is taken. Escape right after a digit waits while a refused one blinks, so the caret
-# goes only once the game has answered; the name says a refusal.
+# goes only once the game has answered; the name says a refusal, and one notification says the result.
 prefix = here.name[: -len("empty")]
 for d in range(1, 10):
     del heard[:]
@@ -109,7 +114,13 @@ for d in range(1, 10):
     say("%d: %s" % (d, here.name))
     if ("accessible-name", here.name) not in heard:
         fail("a name change to %r" % here.name)
-    if here.name == prefix + str(d):
+    placed = here.name == prefix + str(d)
+    wait_for(lambda: [h for h in heard if h[0] == "notification"], "a notification after %d" % d)
+    said = [name for kind, name in heard if kind == "notification"]
+    say("%d: notification %s" % (d, said))
+    if not (said == [prefix + str(d)] if placed else len(said) == 1 and said[0].startswith("%d refused: " % d)):
+        fail("one notification of %s %d, heard %s" % ("placed" if placed else "refused", d, said))
+    if placed:
         break
     key("Down")  # back to the cell it left
     caret(here, "Caret: value entry")
@@ -171,6 +182,8 @@ else:
     if choice:
         fail("no candidate could be toggled")
     say("no cell with two candidates is left below: no pencil mark toggled")
+if [o.name for o in walk(app) if re.fullmatch(r"\d", o.name or "")]:
+    fail("a bare digit is read after the moves")
 app_process.terminate()
 app_process.wait(30)
 report.close()
