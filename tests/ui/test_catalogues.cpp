@@ -1,5 +1,6 @@
 // Every catalogue under translations/ against the texts lupdate finds in ui/ now: nothing missing, unfinished or
-// obsolete; placeholders, line breaks and "&" marks kept; no two entries of one menu on the same mnemonic.
+// obsolete; placeholders, line breaks and "&" marks kept; no two entries of one menu on the same mnemonic; no sentence
+// in the sources that bypasses translation.
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -103,6 +104,30 @@ private slots:
         SudokuWindow window;
         expectUniqueMnemonics("menu bar", window.menuBar()->actions());
         for (QMenu* menu : window.findChildren<QMenu*>()) expectUniqueMnemonics(menu->title(), menu->actions());
+    }
+
+    // A sentence in the sources (a literal that starts with a capital and has a space, not a style sheet) reaches
+    // the player: it must be what tr() or a QT_TR_NOOP mark gets, or stand on a line marked "notr".
+    void everySentenceTranslated() {
+        const QRegularExpression literal("\"((?:[^\"\\\\\\n]|\\\\.)*)\""), sentence("^[A-Z][^{;]* [^{;]*$");
+        const QRegularExpression marked("(\\btr|QT_TR_NOOP|QT_TRANSLATE_NOOP|translate)\\(\\s*(\"[^\"]*\",\\s*)?$");
+        QDir ui(SUDOKU_SOURCE_DIR "/ui");
+        for (const QString& name : ui.entryList({"*.cpp", "*.h"})) {
+            QFile file(ui.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString code = QString::fromUtf8(file.readAll());
+            for (auto it = literal.globalMatch(code); it.hasNext();) {
+                const QRegularExpressionMatch m = it.next();
+                const int at = int(m.capturedStart()), lineStart = int(code.lastIndexOf('\n', at)) + 1;
+                const QString line = code.mid(lineStart, code.indexOf('\n', at) - lineStart);
+                if (!sentence.match(m.captured(1)).hasMatch() || line.trimmed().startsWith("//") ||
+                    line.startsWith("#include") || line.contains("notr"))
+                    continue;
+                const int from = std::max(0, at - 200);
+                QVERIFY2(marked.match(code.mid(from, at - from)).hasMatch(),
+                         qPrintable(name + ": not translated: " + m.captured(1)));
+            }
+        }
     }
 
     // The desktop's languages are taken in order, one without a catalogue skipped (ctest sets LANGUAGE=nl:fr:de).
