@@ -29,6 +29,7 @@ std::string lines(char empty, const std::string& gap, bool bars) {
 TEST(PuzzleText, ReadsEveryFormAndRefusesWhatIsNoUniquePuzzle) {
     Grid solved{}, g{}, s{};
     ASSERT_EQ(checkPuzzle(kPuzzle, g, solved), PuzzleCheck::unique);
+    EXPECT_EQ(writePuzzle(g), kPuzzle);  // as Copy Puzzle writes it
     std::string oneTwoFree = writePuzzle(solved);  // its 1s and 2s can change places throughout
     for (char& c : oneTwoFree) c = c == '1' || c == '2' ? '.' : c;
     using P = PuzzleCheck;
