@@ -153,12 +153,14 @@ TEST_P(RuleCases, ClearWhatTheRuleAllows) {
     EXPECT_EQ(run(s, c.rules), c.result);
     EXPECT_EQ(mismatches(s, c.expected), "");
     if (c.result == "changed") { EXPECT_EQ(run(s, c.rules), "unchanged"); }  // the pass is complete
-    if (c.rules.size() > 1 || (c.result != "changed" && c.result != "unchanged")) return;
-    // The rule's steps, reported one at a time and taken until none is left, add up to its pass.
+    if (c.rules.size() > 1) return;
+    // The rule reports a step exactly when its pass removes a candidate (none where a unit's digits cannot be placed);
+    // its steps, reported one at a time and taken until none is left, add up to its pass.
     Step step;
     bool found = findRuleStep(c.rules.front(), steps, step);
-    EXPECT_EQ(found, c.result == "changed");
+    EXPECT_EQ(found, c.result == "changed" || c.result.rfind("emptied", 0) == 0);
     if (!c.step.empty()) { EXPECT_EQ(found ? testing_support::describe(step) : "no step", c.step); }
+    if (c.result.find("changed") == std::string::npos) return;  // a contradiction: the pass stopped partway
     for (int n = 0; n < 200 && found; ++n, found = findRuleStep(c.rules.front(), steps, step)) applyStep(step, steps);
     for (int i = 0; i < 81; ++i) EXPECT_EQ(steps.cells[i].mask(), s.cells[i].mask()) << "cell " << i;
 }
