@@ -1,14 +1,10 @@
-// The main window: start-up, new games and moves, the keyboard, the pencil-mark options, open and save, input during
-// an animation, printing (page layouts, the games printed, the print command and its preview).
-#include <sys/mount.h>
-
+// The main window: start-up, games and moves, keys, pencil-mark options, open, save, input while animating, print.
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
-#include <QScopeGuard>
 #include <QSoundEffect>
 #include <QTemporaryDir>
 
@@ -69,9 +65,11 @@ class WindowTest : public QObject {
         const Qt::Key keys[] = {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab,
                                 Qt::Key_Left,   Qt::Key_Right, Qt::Key_Up,     Qt::Key_Down};
         for (QChar k : script) {
-            if (k == 'c' || k == 'p') QTest::mouseClick(window->tileAt(at), k == 'c' ? Qt::LeftButton : Qt::RightButton);
+            if (k == 'c' || k == 'p')
+                QTest::mouseClick(window->tileAt(at), k == 'c' ? Qt::LeftButton : Qt::RightButton);
             if (k == 'M') trigger(*window, "actionViewPencilMarks");
-            if (QString("ESRT<>^v").contains(k)) QTest::keyClick(window->focusWidget(), keys[QString("ESRT<>^v").indexOf(k)]);
+            const int n = QString("ESRT<>^v").indexOf(k);
+            if (n >= 0) QTest::keyClick(window->focusWidget(), keys[n]);
         }
     }
     void fileCommand(const char* action, const QString& path) {  // actionSaveGame or actionOpenGame
@@ -112,11 +110,9 @@ private slots:
         qApp->exec();
     }
 
-    // Once the first frame is painted the tiles get their forms and the refusal sound is loaded, before any refusal
-    // needs it; the tool tips' pictures come from the resources.
+    // After the first frame the tiles get their forms and the refusal sound loads; tool-tip pictures are resources.
     void startUp() {
-        QTRY_VERIFY_WITH_TIMEOUT(window->tileAt(0)->hasForm() && window->tileAt(80)->hasForm(), 10000);
-        QTRY_VERIFY_WITH_TIMEOUT(window->findChild<QSoundEffect*>(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(window->tileAt(80)->hasForm() && window->findChild<QSoundEffect*>(), 10000);
         for (QAction* a : window->findChildren<QAction*>()) {
             const QString tip = a->toolTip();
             const int at = tip.indexOf(":/Sudoku/Resources/");
@@ -124,8 +120,7 @@ private slots:
         }
     }
 
-    // Each level's command asks first; declined, or with the window closed while it asks, the game stays. Then Make
-    // Move fills one cell (User Edit: a searched one) and Retract empties it again; a full board has no move.
+    // Each level's command asks first (declined or closed: the game stays); Make Move fills a cell, Retract empties it.
     void newGame_data() {
         QTest::addColumn<int>("level");
         QTest::addColumn<int>("answer");  // to the question; 0: the window closes while it asks
@@ -160,8 +155,7 @@ private slots:
         QCOMPARE(answerer.texts.mid(1), empties ? QStringList() : full);
     }
 
-    // Where the caret ends, and in which mode, after clicks and keys on a User Edit board whose first row holds 1 to 8
-    // (cell 0: candidate 9 alone); keys where they cannot act change nothing.
+    // The caret after clicks and keys on a User Edit board, 1 to 8 in cells 1 to 8 (cell 0: 9 alone); no value enters.
     void keyboard_data() {
         QTest::addColumn<int>("at");  // the tile clicked; -1: on a full board
         QTest::addColumn<QString>("script");
@@ -196,18 +190,6 @@ private slots:
         QCOMPARE(window->caret(), caret);
         if (caret >= 0) QCOMPARE(int(window->tileAt(caret)->caret()), mode);
         QCOMPARE(shownValues(*window), before);
-    }
-
-    // The last cell filled by Make Move is celebrated too, and no highlight stays.
-    void completedByMakeMove() {
-        MessageBoxAnswerer answerer;
-        for (int i; (i = firstEmpty(*window)) >= 0 && firstEmpty(*window, i) >= 0;)
-            QVERIFY(window->currentBoard()->setValue(i, solution(i)));
-        trigger(*window, "actionMakeMove");
-        QVERIFY(window->currentBoard()->isComplete());
-        QCOMPARE(window->highlight(), 0);
-        window->cellHasNoSolution({}, 40);
-        QCOMPARE(answerer.texts, (QStringList{"Congratulations!", "Cell 40 has no solution"}));
     }
 
     // The pencil-mark options, beside the window: a double click applies one rule alone, removing candidates shown
@@ -257,8 +239,7 @@ private slots:
         QVERIFY(!dialog.isVisible());
     }
 
-    // A saved game comes back whole, retracted moves and candidates too, over a longer file it replaces; saving where
-    // it cannot be written is reported, a cancelled open does nothing.
+    // A game saved over a longer file comes back whole (retracted moves, candidates); failed saves are reported.
     void saveAndOpen() {
         const QString path = dir.filePath("game.sud");
         trigger(*window, "actionMakeMove");
@@ -279,15 +260,18 @@ private slots:
         fileCommand("actionOpenGame", QString());
         saveTo(dir.filePath("no/such/dir/x.sud"));
         saveTo("/dev/full");  // a device is no place for a saved game
-        QCOMPARE(answerer.texts, (QStringList{kLost, "Failed to save game", "Failed to save game"}));
+        window->cellHasNoSolution({}, 40);
+        const QStringList failed{"Failed to save game", "Failed to save game", "Cell 40 has no solution"};
+        QCOMPARE(answerer.texts, QStringList{kLost} + failed);
         trigger(*window, "actionMakeMove");  // the retracted move comes back first
         QCOMPARE(window->currentBoard()->undoneSize(), 0u);
     }
 
+    // A file that is no saved game (the reader's refusal or its exception) or is missing leaves the game playable.
     void refusedFilesKeepTheGame_data() {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QStringList>("texts");
-        QTest::newRow("truncated") << QByteArray() << QStringList();  // a real saved game, cut off in the middle
+        QTest::newRow("text") << QByteArray("This is not a saved game") << QStringList{"Failed to load game"};
         QTest::newRow("version 3")
             << QByteArray("\x08\x00\x00\x00version=\x03\x00\x00\x00", 16)
             << QStringList{"Loaded file version is incompatible\n(expected version: 2 actual version: 3)",
@@ -301,40 +285,17 @@ private slots:
         QFETCH(QStringList, texts);
         const auto shown = shownValues(*window);
         eng::Board* board = window->currentBoard();
-        const QString path = dir.filePath("bad.sud");
-        saveTo(path);
+        const QString path = dir.filePath(QTest::currentDataTag());
         QFile f(path);
-        QVERIFY(f.open(QIODevice::ReadWrite) && f.resize(bytes.isEmpty() ? f.size() / 2 : 0) && f.write(bytes) >= 0);
+        QVERIFY(bytes == "-" || (f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size()));
         f.close();
-        if (bytes == "-") f.remove();
         MessageBoxAnswerer answerer;
         fileCommand("actionOpenGame", path);
-        QCOMPARE(answerer.texts.last(), QString("Failed to load game"));  // whatever the reader says first
-        if (!texts.isEmpty()) QCOMPARE(answerer.texts, texts);
+        QCOMPARE(answerer.texts, texts);
         QCOMPARE(window->currentBoard(), board);
         QCOMPARE(shownValues(*window), shown);
         trigger(*window, "actionMakeMove");  // still playable
         QVERIFY(shownValues(*window) != shown);
-    }
-
-    // On a 64 KiB file system that fills up between two saves, the failed save leaves the first file as it was.
-    void failedSaveKeepsThePreviousFile() {
-        const QByteArray mnt = QFile::encodeName(dir.path());
-        if (mount("tmpfs", mnt.constData(), "tmpfs", 0, "size=64k") != 0) QSKIP("cannot mount a tmpfs (needs root)");
-        const auto unmount = qScopeGuard([&mnt] { umount2(mnt.constData(), MNT_DETACH); });
-        const QString path = dir.filePath("game.sud");
-        MessageBoxAnswerer answerer;
-        saveTo(path);
-        const QByteArray first = contents(path);
-        QFile fill(dir.filePath("fill"));
-        QVERIFY(first.size() > 1836 && fill.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-        while (fill.write(QByteArray(4096, 'x')) == 4096) continue;
-        while (fill.write("x", 1) == 1) continue;
-        trigger(*window, "actionMakeMove");  // a longer game to save
-        saveTo(path);
-        QCOMPARE(answerer.texts, QStringList{"Failed to save game"});
-        QCOMPARE(contents(path), first);
-        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{"fill", "game.sud"}));
     }
 
     // Input while a refused value blinks or the completed board is celebrated: keys wait and then count; clicks and
@@ -342,7 +303,7 @@ private slots:
     void inputDuringAnimation_data() {
         QTest::addColumn<bool>("completing");
         QTest::addColumn<QString>("during");  // keys as for the keyboard test; C: a click, commands, closing
-        QTest::addColumn<int>("caret");       // where the caret ends: -1 none, 0 the cell typed in, 1 the next empty one
+        QTest::addColumn<int>("caret");       // where it ends: -1 none, 0 the cell typed in, 1 the next empty one
         QTest::addColumn<int>("mode");
         QTest::newRow("refusal, keys") << false << "SvE" << -1 << 0;
         QTest::newRow("refusal, space") << false << "S" << 0 << 2;
@@ -374,28 +335,27 @@ private slots:
                 trigger(*window, command);
             window->close();
         });
-        QElapsedTimer timer;
-        timer.start();
+        const QDeadlineTimer soon(2500);
         QTest::mouseClick(window->tileAt(last), Qt::LeftButton);
         QTest::keyClick(window->tileAt(last), Qt::Key_0 + (completing ? solution(last) : solution(last) % 9 + 1));
         QCOMPARE(window->tileAt(last)->hasValue(), completing);
         QCOMPARE(window->currentBoard(), board);
         QCOMPARE(board->historySize(), history + completing);
         if (during == "C") {
-            QVERIFY(timer.elapsed() < 2500 && !window->isVisible() && answerer.texts.isEmpty());
+            QVERIFY(!soon.hasExpired() && !window->isVisible() && answerer.texts.isEmpty());
             return;
         }
         QTRY_VERIFY_WITH_TIMEOUT(!window->isBusy(), 20000);
         QCoreApplication::processEvents();
         QCOMPARE(answerer.texts, completing ? QStringList{"Congratulations!"} : QStringList());
+        QCOMPARE(window->highlight(), 0);  // none left by the celebration
         const int expected = caret < 0 ? -1 : caret == 0 ? last : next;
         QCOMPARE(window->caret(), expected);
         if (expected >= 0) QCOMPARE(int(window->tileAt(expected)->caret()), mode);
     }
 
-    // Where the layout puts the boards on the paper (A4, millimetres), and only there, is ink; the layout keeps them
-    // apart and on the page. No event is handled while the pages are drawn: a timer touching the preview between its
-    // pages would crash it.
+    // Ink only where the layout puts the boards (apart, on the page), the window left on the last game printed. No
+    // event is handled while the pages are drawn: a timer touching the preview between its pages would crash it.
     void layouts_data() {
         QTest::addColumn<int>("perPage");  // 1: the current game, else new games
         QTest::addColumn<int>("repeat");
@@ -448,8 +408,7 @@ private slots:
         QTRY_VERIFY(fired);
     }
 
-    // Ctrl+P asks for the options, then for the PDF's name; cancelling either prints nothing, a PDF that cannot be
-    // written is reported, the choices are kept. The preview shows the pages, and again once turned.
+    // Ctrl+P asks for the options, then the PDF's name (cancelled: nothing; unwritable: reported); then the preview.
     void printCommand() {
         PrintingInfo& info = choose("radNewGame", 2, 2, true);
         const QString path = dir.filePath("command.pdf");
