@@ -7,6 +7,7 @@
 #include <QPrinter>
 #include <QSoundEffect>
 #include <QTemporaryDir>
+#include <set>
 
 #include "PrintLayout.h"
 #include "WindowTestSupport.h"
@@ -59,14 +60,12 @@ class WindowTest : public QObject {
         for (int v : shownValues(*window)) n += !v;
         return n;
     }
-    // Plays where the keyboard is: E Escape, S Space, R Return, T Tab, < > ^ v arrows; c and p a left and a right
-    // click on tile `at`, M the pencil-marks toggle.
-    void play(const QString& script, int at = -1) {
+    // Keys where the keyboard is (E Esc, S Space, R Return, T Tab, <>^v arrows), c p a left, right click on i, M marks.
+    void play(const QString& script, int i = -1) {
         const Qt::Key keys[] = {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab,
                                 Qt::Key_Left,   Qt::Key_Right, Qt::Key_Up,     Qt::Key_Down};
         for (QChar k : script) {
-            if (k == 'c' || k == 'p')
-                QTest::mouseClick(window->tileAt(at), k == 'c' ? Qt::LeftButton : Qt::RightButton);
+            if (k == 'c' || k == 'p') QTest::mouseClick(window->tileAt(i), k == 'c' ? Qt::LeftButton : Qt::RightButton);
             if (k == 'M') trigger(*window, "actionViewPencilMarks");
             const int n = QString("ESRT<>^v").indexOf(k);
             if (n >= 0) QTest::keyClick(window->focusWidget(), keys[n]);
@@ -114,9 +113,8 @@ private slots:
     void startUp() {
         QTRY_VERIFY_WITH_TIMEOUT(window->tileAt(80)->hasForm() && window->findChild<QSoundEffect*>(), 10000);
         for (QAction* a : window->findChildren<QAction*>()) {
-            const QString tip = a->toolTip();
-            const int at = tip.indexOf(":/Sudoku/Resources/");
-            if (at > 0) QVERIFY2(!QPixmap(tip.mid(at, tip.indexOf('"', at) - at)).isNull(), qPrintable(tip));
+            const auto picture = QRegularExpression(":/Sudoku/Resources/[^\"]*").match(a->toolTip());
+            if (picture.hasMatch()) QVERIFY2(!QPixmap(picture.captured()).isNull(), qPrintable(a->toolTip()));
         }
     }
 
@@ -231,10 +229,8 @@ private slots:
         src->selectAll();  // everything chosen: sixteen distinct rules reach the board
         child(dialog, "btnToDst")->click();
         apply->click();
-        Rules all = window->currentBoard()->pencilMarksRulesList();
-        all.sort();
-        all.unique();
-        QCOMPARE(all.size(), 16u);
+        const Rules all = window->currentBoard()->pencilMarksRulesList();
+        QCOMPARE(std::set<eng::Rules>(all.begin(), all.end()).size(), 16u);
         trigger(*window, "actionExit");
         QVERIFY(!dialog.isVisible());
     }
@@ -242,8 +238,7 @@ private slots:
     // A game saved over a longer file comes back whole (retracted moves, candidates); failed saves are reported.
     void saveAndOpen() {
         const QString path = dir.filePath("game.sud");
-        trigger(*window, "actionMakeMove");
-        trigger(*window, "actionMakeMove");
+        for (int k = 0; k < 2; ++k) trigger(*window, "actionMakeMove");
         window->tilePotentialsEdited(firstEmpty(*window), 9);
         trigger(*window, "actionRetractMove");
         const auto shown = shownValues(*window);
@@ -260,9 +255,7 @@ private slots:
         fileCommand("actionOpenGame", QString());
         saveTo(dir.filePath("no/such/dir/x.sud"));
         saveTo("/dev/full");  // a device is no place for a saved game
-        window->cellHasNoSolution({}, 40);
-        const QStringList failed{"Failed to save game", "Failed to save game", "Cell 40 has no solution"};
-        QCOMPARE(answerer.texts, QStringList{kLost} + failed);
+        QCOMPARE(answerer.texts, (QStringList{kLost, "Failed to save game", "Failed to save game"}));
         trigger(*window, "actionMakeMove");  // the retracted move comes back first
         QCOMPARE(window->currentBoard()->undoneSize(), 0u);
     }
@@ -287,8 +280,7 @@ private slots:
         eng::Board* board = window->currentBoard();
         const QString path = dir.filePath(QTest::currentDataTag());
         QFile f(path);
-        QVERIFY(bytes == "-" || (f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size()));
-        f.close();
+        QVERIFY(bytes == "-" || (f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() && f.flush()));
         MessageBoxAnswerer answerer;
         fileCommand("actionOpenGame", path);
         QCOMPARE(answerer.texts, texts);
@@ -318,15 +310,12 @@ private slots:
         QFETCH(int, caret);
         QFETCH(int, mode);
         MessageBoxAnswerer answerer;
-        std::srand(7);
-        trigger(*window, "actionNewGameMedium");
         trigger(*window, "actionViewPencilMarks");
         eng::Board* board = window->currentBoard();
         for (int i; completing && (i = firstEmpty(*window)) >= 0 && firstEmpty(*window, i) >= 0;)
             QVERIFY(board->setValue(i, solution(i)));
         const int last = firstEmpty(*window), next = firstEmpty(*window, last);
         const size_t history = board->historySize();
-        answerer.texts.clear();
         QTimer::singleShot(300, window, [&] {
             play(during);
             if (during != "C") return;
@@ -379,7 +368,7 @@ private slots:
             QVERIFY(paper.adjusted(15, 15, -15, -15).contains(r));
             for (const QRectF& other : boards) QVERIFY(&r == &other || !r.intersects(other));
         }
-        const auto board = window->currentBoard();
+        auto expected = shownValues(*window);  // printing the current game changes nothing
         choose(perPage == 1 ? "radCurrentGame" : perPage == 2 ? "radNewTwoGames" : "radNewFourGames", repeat, 1);
         std::srand(321);
         bool fired = false;
@@ -390,15 +379,12 @@ private slots:
         printer.setOutputFileName(dir.filePath(QString(QTest::currentDataTag()) + ".pdf"));  // a PDF, by its name
         window->doPainting(&printer);
         QVERIFY(!fired);
-        if (perPage == 1) {  // printing the current game changes nothing
-            QCOMPARE(window->currentBoard(), board);
-        } else {  // the window ends on the last game printed: the same generations again
-            std::srand(321);
-            eng::Board last(nullptr);
-            last.setPencilMarksRules(window->pencilMarksDialog().selectedRules());
-            for (int g = 0; g < repeat * perPage; ++g) QVERIFY(last.generate(eng::lvlVeryEasy));
-            for (int i = 0; i < 81; ++i) QCOMPARE(window->tileAt(i)->value(), last.cell(i)->value());
-        }
+        std::srand(321);  // new games leave the window on the last one printed: the same generations again
+        eng::Board last(nullptr);
+        last.setPencilMarksRules(window->pencilMarksDialog().selectedRules());
+        for (int g = 0; perPage > 1 && g < repeat * perPage; ++g) QVERIFY(last.generate(eng::lvlVeryEasy));
+        for (int i = 0; perPage > 1 && i < 81; ++i) expected[i] = last.cell(i)->value();
+        QCOMPARE(shownValues(*window), expected);
         const auto pages = renderPages(printer.outputFileName());
         QCOMPARE(pages.size(), repeat);
         QCOMPARE(pages.first() == pages.last(), repeat == 1 || perPage == 1);
