@@ -1,21 +1,8 @@
 // The game on a real display, X11 (scripts/with-display.sh: Xvfb with openbox) or Wayland (scripts/with-weston.sh:
 // a headless weston): what the player sees is read back from the X server or from the compositor's screenshots, not
 // from the widgets. The checks that texts fit and icons are sharp run again at 120, 144 and 192 dpi.
-#include <QCheckBox>
-#include <QDeadlineTimer>
-#include <QGroupBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QMenuBar>
-#include <QRadioButton>
-#include <QScreen>
-#include <QStatusBar>
-#include <QStyleOption>
-#include <QTemporaryDir>
-#include <QTextDocument>
-#include <QToolBar>
+#include <QtWidgets>
 #include <cstdlib>
-#include <functional>
 
 #include "AboutDialog.h"
 #include "HighDpi.h"
@@ -27,7 +14,11 @@ namespace {
 
 const QRgb kPink = 0xffaaff;
 
-QImage screenOf(QWidget& w) { return w.screen()->grabWindow(w.winId()).toImage(); }
+// What the X server shows of `area` of a window (all of it by default).
+QImage screenOf(QWidget& w, QRect area = QRect(0, 0, -1, -1)) {
+    return w.screen()->grabWindow(w.winId(), area.x(), area.y(), area.width(), area.height()).toImage().convertToFormat(
+        QImage::Format_RGB32);
+}
 
 QString xdotool(const QStringList& args) {
     QProcess p;
@@ -52,21 +43,20 @@ QPoint locate(const QImage& shot, SudokuWindow& w) {
     QList<QPoint> points;
     for (int i = 0; i < 81; i += 4)
         for (QPoint d : {QPoint(3, 3), QPoint(30, 30), QPoint(20, 40)}) points << w.tileAt(i)->mapTo(&w, d);
-    auto same = [&](int x, int y, QPoint p) {
-        return (shot.pixel(x + p.x(), y + p.y()) & 0xffffff) == (own.pixel(p) & 0xffffff);
-    };
+    auto same = [&](QPoint at, QPoint p) { return (shot.pixel(at + p) & 0xffffff) == (own.pixel(p) & 0xffffff); };
     for (int y = 0; y + own.height() <= shot.height(); ++y)
         for (int x = 0; x + own.width() <= shot.width(); ++x) {
-            if (!std::all_of(points.begin(), points.end(), [&](QPoint p) { return same(x, y, p); })) continue;
+            const QPoint at(x, y);
+            if (!std::all_of(points.begin(), points.end(), [&](QPoint p) { return same(at, p); })) continue;
             int differ = 0;
             for (int v = 0; v < own.height(); ++v)
-                for (int u = 0; u < own.width(); ++u) differ += !same(x, y, QPoint(u, v));
-            if (differ < own.width() * own.height() / 100) return QPoint(x, y);
+                for (int u = 0; u < own.width(); ++u) differ += !same(at, QPoint(u, v));
+            if (differ < own.width() * own.height() / 100) return at;
         }
     return QPoint(-1, -1);
 }
 
-// Runs `act`. Each time the state of `target` changes meanwhile (seen in its events), the screen is read until it
+// Runs while it lives. Each time the state of `target` changes (seen in its events), the screen is read until it
 // shows the step painted before the change, the next letter of `expected` ('.': not looked at), or a deadline passes
 // ('?'): the animation paints each step and then holds the GUI thread, so the screen must have it by then.
 struct StepWatcher : QObject {
@@ -91,35 +81,25 @@ struct StepWatcher : QObject {
 
 bool black(QColor p) { return p.value() < 60; }
 
-// The room a button leaves for its text, from the style that draws it.
-QRect textRoom(QAbstractButton* b) {
-    QStyleOptionButton opt;
-    opt.initFrom(b);
-    opt.text = b->text();
-    QStyle::SubElement element = QStyle::SE_PushButtonContents;
-    if (qobject_cast<QCheckBox*>(b)) element = QStyle::SE_CheckBoxContents;
-    if (qobject_cast<QRadioButton*>(b)) element = QStyle::SE_RadioButtonContents;
-    return b->style()->subElementRect(element, &opt, b);
-}
-
-// The size a label's text needs, rich text laid out as the label lays it out.
+// The size a label's text needs, rich text laid out as the label lays it out; one line of plain text: its ink.
 QSize textSize(QLabel* label) {
-    if (!Qt::mightBeRichText(label->text())) {  // one line of text: its ink must show
-        const QFontMetrics fm = label->fontMetrics();
-        if (label->wordWrap()) return fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text()).size();
-        return {fm.horizontalAdvance(label->text()), fm.tightBoundingRect(label->text()).height()};
-    }
+    const QFontMetrics fm = label->fontMetrics();
+    if (!Qt::mightBeRichText(label->text()))
+        return label->wordWrap() ? fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text()).size()
+                                 : QSize(fm.horizontalAdvance(label->text()), fm.tightBoundingRect(label->text()).height());
     QTextDocument doc;
     doc.setDefaultFont(label->font());
     doc.setDocumentMargin(0);
     doc.setHtml(label->text());
-    if (!label->wordWrap()) return {int(std::ceil(doc.idealWidth())), 0};
-    doc.setTextWidth(label->contentsRect().width());
-    return {int(std::ceil(doc.idealWidth())), int(std::ceil(doc.size().height()))};
+    if (label->wordWrap()) doc.setTextWidth(label->contentsRect().width());
+    return {int(std::ceil(doc.idealWidth())), label->wordWrap() ? int(std::ceil(doc.size().height())) : 0};
 }
 
-// Every visible text of `top` that does not fit, as "object: text (needed > room)".
-QStringList clipped(QWidget* top) {
+// Every visible text of `top` that does not fit (a button's: in the room its style leaves), with a picture of the
+// screen, the scale in its name.
+void expectTextsFit(QWidget* top, const QString& name) {
+    top->repaint();
+    savePicture(screenOf(*top), QString("scale_%1_%2").arg(top->devicePixelRatioF(), 0, 'f', 2).arg(name));
     QStringList out;
     auto check = [&](QWidget* w, const QString& text, QSize needed, QSize room) {
         if (needed.width() > room.width() || needed.height() > room.height())
@@ -131,24 +111,22 @@ QStringList clipped(QWidget* top) {
         if (auto* l = qobject_cast<QLabel*>(w); l && !l->text().isEmpty()) {
             check(l, l->text(), textSize(l), l->contentsRect().size());
         } else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty() && b->icon().isNull()) {
-            QString text = b->text();
-            text.remove(QRegularExpression("&(?!&)"));
-            check(b, text, {b->fontMetrics().horizontalAdvance(text), b->fontMetrics().height()}, textRoom(b).size());
+            QStyleOptionButton opt;
+            opt.initFrom(b);
+            opt.text = b->text();
+            const auto room = qobject_cast<QCheckBox*>(b)      ? QStyle::SE_CheckBoxContents
+                              : qobject_cast<QRadioButton*>(b) ? QStyle::SE_RadioButtonContents
+                                                               : QStyle::SE_PushButtonContents;
+            const QString text = QString(b->text()).remove(QRegularExpression("&(?!&)"));
+            check(b, text, {b->fontMetrics().horizontalAdvance(text), b->fontMetrics().height()},
+                  b->style()->subElementRect(room, &opt, b).size());
         } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
             check(g, g->title(), {g->fontMetrics().horizontalAdvance(g->title()), 0}, g->contentsRect().size());
         } else if (auto* list = qobject_cast<QListWidget*>(w)) {
             check(list, "items", {list->sizeHintForColumn(0), 0}, list->viewport()->size());
         }
     }
-    return out;
-}
-
-// Every visible text fits, with a picture of what the screen shows, the scale in its name.
-void expectTextsFit(QWidget* w, const QString& name) {
-    w->repaint();
-    savePicture(screenOf(*w), QString("scale_%1_%2").arg(w->devicePixelRatioF(), 0, 'f', 2).arg(name));
-    const QStringList bad = clipped(w);
-    QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+    QVERIFY2(out.isEmpty(), qPrintable(out.join('\n')));
 }
 
 }  // namespace
@@ -163,37 +141,34 @@ class DisplayTest : public QObject {
     QPoint origin;  // Wayland: where the window's content starts in a screenshot
 
     QImage screenshot() { return ::screenshot(shots.path() + "/" + QString::number(taken++)); }
-    // What the screen shows of `area` of a widget of the window, read back from the display.
+    // What the display shows of `area` of a widget of the window.
     QImage shown(QWidget* w, QRect area) {
-        const QPoint at = w->mapTo(window, area.topLeft());
-        if (wayland) return screenshot().copy({origin + at, area.size()});
-        return window->screen()->grabWindow(window->winId(), at.x(), at.y(), area.width(), area.height()).toImage();
+        const QRect at(w->mapTo(window, area.topLeft()), area.size());
+        return wayland ? screenshot().copy(at.translated(origin)) : screenOf(*window, at);
     }
     QImage windowShown() { return shown(window, window->rect()); }
 
-    // Every tile pink exactly when it holds the highlighted value, on screen too.
+    // Every tile but the caret pink on screen exactly when it holds the highlighted value.
     void checkHighlight(const char* when) {
         QTRY_VERIFY_WITH_TIMEOUT(!window->isBusy(), 10000);
         auto wrong = [this] {
             const QImage shot = windowShown();
             int n = 0;
-            for (int i = 0; i < 81; ++i) {
-                const bool lit = window->highlight() != 0 && window->tileAt(i)->value() == window->highlight();
-                n += window->caret() != i && (background(shot, *window, i) == kPink) != lit;
-            }
+            for (int i = 0; i < 81; ++i)
+                n += window->caret() != i && (background(shot, *window, i) == kPink) !=
+                                                 (window->highlight() && window->tileAt(i)->value() == window->highlight());
             return n;
         };
         QTRY_VERIFY2_WITH_TIMEOUT(wrong() == 0, when, 10000);
     }
+    void click(int tile, Qt::MouseButton button = Qt::LeftButton) { QTest::mouseClick(window->tileAt(tile), button); }
 
 private slots:
     void initTestCase() {
         wayland = QGuiApplication::platformName() == "wayland";
         QVERIFY(wayland || QGuiApplication::platformName() == "xcb");
         window = shownWindow();
-        if (wayland)
-            QTRY_VERIFY_WITH_TIMEOUT((origin = locate(screenshot(), *window)) != QPoint(-1, -1),
-                                     20000);
+        if (wayland) QTRY_VERIFY_WITH_TIMEOUT((origin = locate(screenshot(), *window)) != QPoint(-1, -1), 20000);
     }
     void cleanupTestCase() { delete window; }
 
@@ -211,10 +186,8 @@ private slots:
         SudokuWindow fresh;
         const qreal ratio = fresh.devicePixelRatioF();
         // Where a picture would not be copied pixel for pixel the forms are there at once; unscaled, never.
-        if (fresh.tileAt(0)->hasForm()) {
-            QVERIFY(ratio != 1);
-            return;
-        }
+        QVERIFY(ratio != 1 || !fresh.tileAt(0)->hasForm());
+        if (fresh.tileAt(0)->hasForm()) return;
         auto* board = child<QWidget>(fresh, "boardWidget");
         const QImage first = board->grab().toImage().convertToFormat(QImage::Format_RGB32);
         showAtStartUp(fresh);
@@ -224,14 +197,8 @@ private slots:
         // The part of the board on the screen: at 192 dpi the window reaches past its bottom.
         const QPoint at = board->mapToGlobal(QPoint(0, 0));
         const QRect area = (QRect(at, board->size()) & fresh.screen()->geometry()).translated(-at);
-        const QPoint inWindow = board->mapTo(&fresh, area.topLeft());
-        auto onScreen = [&] {
-            return fresh.screen()
-                ->grabWindow(fresh.winId(), inWindow.x(), inWindow.y(), area.width(), area.height())
-                .toImage()
-                .convertToFormat(QImage::Format_RGB32);
-        };
-        QTRY_COMPARE_WITH_TIMEOUT(onScreen(), first.copy(QRect(area.topLeft() * ratio, area.size() * ratio)), 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(screenOf(fresh, QRect(board->mapTo(&fresh, area.topLeft()), area.size())),
+                                  first.copy(QRect(area.topLeft() * ratio, area.size() * ratio)), 10000);
     }
 
     // A refused value blinks visible, hidden, visible, hidden on screen; on X11 a burst of keys typed meanwhile with
@@ -239,30 +206,25 @@ private slots:
     void refusedValueBlinks() {
         eng::Board* board = window->currentBoard();
         const int a = firstEmpty(*window), b = firstEmpty(*window, a), c = firstEmpty(*window, b);
-        QTest::mouseClick(window->tileAt(a), Qt::LeftButton);
+        click(a);
         QTRY_VERIFY_WITH_TIMEOUT(window->caret() == a, 10000);
         auto digit = [board](int i) { return QString::number(board->solutionValue(i)); };
-        const QStringList keys{"key", "--delay", "40", digit(a), "Right", digit(b), "Right", digit(c)};
         if (!wayland) {
             window->activateWindow();
             QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeWindow() == window, 10000);
-            QTimer::singleShot(0, window, [&] { QProcess::startDetached("xdotool", keys); });
+            const QStringList keys{"key", "--delay", "40", digit(a), "Right", digit(b), "Right", digit(c)};
+            QTimer::singleShot(0, window, [keys] { QProcess::startDetached("xdotool", keys); });
         }
         auto* label = child<QLabel>(*window->tileAt(a), "lblValue");
-        // Red pixels inside the tile's border: the struck-through digit is shown.
         QVERIFY(label->isHidden());  // shown with the digit typed, before the blink paints it
+        // 'V': red pixels inside the tile's border, the struck-through digit is shown.
         StepWatcher watcher(label, [label] { return QString(label->isHidden() ? "h" : "v"); },
                             [&] { return digitShown(shown(window->tileAt(a), QRect(8, 8, 44, 44))); }, ".VhVh");
         QTest::keyClick(window->tileAt(a), Qt::Key_0 + board->solutionValue(a) % 9 + 1);
         QCOMPARE(watcher.seen, QString(".VhVh"));
-        if (wayland) {
-            QCOMPARE(board->cell(a)->value(), 0);
-            return;
-        }
-        QTRY_COMPARE_WITH_TIMEOUT(board->cell(c)->value(), board->solutionValue(c), 15000);
-        QCOMPARE(board->cell(a)->value(), board->solutionValue(a));
-        QCOMPARE(board->cell(b)->value(), board->solutionValue(b));
-        savePicture(screenOf(*window), "display_after_burst");
+        if (!wayland) QTRY_COMPARE_WITH_TIMEOUT(board->cell(c)->value(), board->solutionValue(c), 15000);
+        for (int i : {a, b}) QCOMPARE(board->cell(i)->value(), wayland ? 0 : board->solutionValue(i));
+        savePicture(windowShown(), "display_after_burst");
     }
 
     // A refused candidate flashes red, black, red, black on screen.
@@ -270,7 +232,7 @@ private slots:
         trigger(*window, "actionViewPencilMarks");
         const int a = firstEmpty(*window, window->caret() == firstEmpty(*window) ? window->caret() : -1);
         const int v = window->currentBoard()->solutionValue(a);
-        QTest::mouseClick(window->tileAt(a), Qt::RightButton);  // not on the caret, which a click would remove
+        click(a, Qt::RightButton);  // not on the caret, which a click would remove
         QTRY_VERIFY_WITH_TIMEOUT(window->caret() == a, 10000);
         QLabel* label = window->tileAt(a)->findChild<QLabel*>(QString("lbl%1").arg(v));
         auto step = [&] {
@@ -282,35 +244,30 @@ private slots:
         QTest::keyClick(window->tileAt(a), Qt::Key_0 + v);
         QCOMPARE(watcher.seen, QString(".RBRB"));
         trigger(*window, "actionViewPencilMarks");
-        QTest::mouseClick(window->tileAt(a), Qt::RightButton);
+        click(a, Qt::RightButton);
     }
 
     // No tile stays pink without the highlighted value: after clicks, a new game, moves, retractions, a value entered.
     void noStaleHighlight() {
-        const int v = window->tileAt(firstFilled(*window))->value();
-        QTest::mouseClick(window->tileAt(firstFilled(*window)), Qt::LeftButton);
+        const int given = firstFilled(*window), v = window->tileAt(given)->value();
+        click(given);
         QCOMPARE(window->highlight(), v);
         checkHighlight("click");
-        QTest::mouseClick(window->tileAt(firstFilled(*window)), Qt::LeftButton);  // a second click ends it
+        click(given);  // a second click ends it
         QCOMPARE(window->highlight(), 0);
-        QTest::mouseClick(window->tileAt(firstFilled(*window)), Qt::LeftButton);
-        QList<int> held;
-        for (int i = 0; i < 81; ++i)
-            if (window->tileAt(i)->value() == v) held << i;
+        click(given);
+        const std::vector<int> before = shownValues(*window);
         MessageBoxAnswerer answerer;
         trigger(*window, "actionNewGameEasy");
         checkHighlight("new game");
-        for (int i : held)  // a tile that held the value and is empty now, then another empty one
-            if (!window->tileAt(i)->hasValue()) {
-                QTest::mouseClick(window->tileAt(i), Qt::LeftButton);
-                QTest::mouseClick(
-                    window->tileAt(firstEmpty(*window, i) >= 0 ? firstEmpty(*window, i) : firstEmpty(*window)),
-                    Qt::LeftButton);
+        for (int i = 0; i < 81; ++i)  // a tile that held the value and is empty now, then another empty one
+            if (before[i] == v && !window->tileAt(i)->hasValue()) {
+                click(i);
+                click(firstEmpty(*window, i) >= 0 ? firstEmpty(*window, i) : firstEmpty(*window));
                 checkHighlight("click after new game");
                 break;
             }
-        if (window->highlight() != window->tileAt(firstFilled(*window))->value())
-            QTest::mouseClick(window->tileAt(firstFilled(*window)), Qt::LeftButton);
+        if (window->highlight() != window->tileAt(firstFilled(*window))->value()) click(firstFilled(*window));
         QVERIFY(window->highlight() != 0);
         for (int i = 0; i < 4; ++i) window->makeMove();
         checkHighlight("make move");
@@ -354,10 +311,9 @@ private slots:
         auto* tools = child<QToolBar>(*w, "mainToolBar");
         for (QAction* a : tools->actions())
             QVERIFY2(a->isSeparator() || tools->widgetForAction(a)->isVisible(), qPrintable(a->objectName()));
-        const QStatusBar* status = w->statusBar();
         for (QAction* a : w->findChildren<QAction*>())
-            QVERIFY2(status->fontMetrics().horizontalAdvance(a->statusTip()) < status->contentsRect().width(),
-                     qPrintable(a->statusTip()));
+            QVERIFY2(w->statusBar()->fontMetrics().horizontalAdvance(a->statusTip()) <
+                         w->statusBar()->contentsRect().width(), qPrintable(a->statusTip()));
         PrintingInfo printing;
         PencilMarksOptions pencilMarks;
         AboutDialog about("1.0.4", w.get());
@@ -373,21 +329,19 @@ private slots:
     void iconsSharp() {
         const qreal ratio = window->devicePixelRatioF();
         for (QAction* action : window->findChild<QToolBar*>()->actions()) {
-            if (action->isSeparator()) continue;
             const QList<QSize> sizes = action->icon().availableSizes();
-            QVERIFY2(sizes.contains(QSize(48, 48)), qPrintable(action->objectName()));
-            QVERIFY2(ratio <= 1 || sizes.contains(QSize(96, 96)), qPrintable(action->objectName()));
+            QVERIFY2(action->isSeparator() || (sizes.contains(QSize(48, 48)) && (ratio <= 1 || sizes.contains(QSize(96, 96)))),
+                     qPrintable(action->objectName()));
         }
-        if (ratio <= 1) return;
         AboutDialog about("1.0.4", window);
         auto* picture = child<QLabel>(about, "label");
-        QVERIFY(picture->pixmap(Qt::ReturnByValue).width() >= picture->width() * ratio - 1);
+        QVERIFY(ratio <= 1 || picture->pixmap(Qt::ReturnByValue).width() >= picture->width() * ratio - 1);
     }
 
     // Asked to maximise (and on X11 to resize), the window keeps its size, and the display shows it so. Last: on
     // Wayland, Qt 5 answers the compositor's maximised state with its fixed size, which ends the connection.
     void fixedSize() {
-        QCOMPARE(window->size(), QSize(609, 709));
+        const QSize size = window->size();
         window->showMaximized();
         if (wayland) {
             QCOMPARE(window->windowHandle()->minimumSize(), window->windowHandle()->maximumSize());
@@ -403,9 +357,9 @@ private slots:
             xdotool({"windowmove", id, QString::number(target.x()), QString::number(target.y())});
             QString after;
             QTRY_VERIFY_WITH_TIMEOUT((after = xdotool({"getwindowgeometry", id})) != before, 10000);
-            QVERIFY2(after.contains("609x709"), qPrintable(after));
+            QVERIFY2(after.contains(QString("%1x%2").arg(size.width()).arg(size.height())), qPrintable(after));
         }
-        QCOMPARE(window->size(), QSize(609, 709));
+        QCOMPARE(window->size(), size);
         window->showNormal();
     }
 };
