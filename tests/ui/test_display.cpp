@@ -1,6 +1,5 @@
-// The game on a real display, X11 (scripts/with-display.sh: Xvfb with openbox) or Wayland (scripts/with-weston.sh:
-// a headless weston): what the player sees is read back from the X server or from the compositor's screenshots, not
-// from the widgets. The checks that texts fit and icons are sharp run again at 120, 144 and 192 dpi.
+// The game as the X server (Xvfb with openbox) or a headless weston's screenshots show it, not as the widgets say;
+// texts fitting and sharp icons again at 120, 144 and 192 dpi.
 #include <QtWidgets>
 #include <cstdlib>
 
@@ -27,19 +26,11 @@ QString xdotool(const QStringList& args) {
     return QString::fromLatin1(p.readAllStandardOutput());
 }
 
-// One screenshot of the whole Wayland output, taken into a folder of its own (the tool names its file by the second).
-QImage screenshot(const QString& folder) {
-    QDir().mkpath(folder);
-    if (std::system(("cd '" + folder + "' && weston-screenshooter >/dev/null 2>&1").toLocal8Bit().constData()) != 0)
-        return QImage();
-    const QStringList files = QDir(folder).entryList({"*.png"});
-    return files.isEmpty() ? QImage() : QImage(folder + "/" + files.first());
-}
-
 // Where the window's content lies in a screenshot: the offset at which it shows the window's own picture, tried on a
 // grid of points over the board, then all but 1% of the pixels the same; (-1, -1) when it is not there.
 QPoint locate(const QImage& shot, SudokuWindow& w) {
     const QImage own = w.grab().toImage();
+    const int width = own.width(), size = width * own.height();
     QList<QPoint> points;
     for (int i = 0; i < 81; i += 4)
         for (QPoint d : {QPoint(3, 3), QPoint(30, 30), QPoint(20, 40)}) points << w.tileAt(i)->mapTo(&w, d);
@@ -49,16 +40,14 @@ QPoint locate(const QImage& shot, SudokuWindow& w) {
             const QPoint at(x, y);
             if (!std::all_of(points.begin(), points.end(), [&](QPoint p) { return same(at, p); })) continue;
             int differ = 0;
-            for (int v = 0; v < own.height(); ++v)
-                for (int u = 0; u < own.width(); ++u) differ += !same(at, QPoint(u, v));
-            if (differ < own.width() * own.height() / 100) return at;
+            for (int i = 0; i < size; ++i) differ += !same(at, {i % width, i / width});
+            if (differ < size / 100) return at;
         }
     return QPoint(-1, -1);
 }
 
-// Runs while it lives. Each time the state of `target` changes (seen in its events), the screen is read until it
-// shows the step painted before the change, the next letter of `expected` ('.': not looked at), or a deadline passes
-// ('?'): the animation paints each step and then holds the GUI thread, so the screen must have it by then.
+// Each time the state of `target` changes, the screen is read until it shows the step painted before, the next
+// letter of `expected` ('.': not looked at), or a deadline passes ('?'): each step is painted, then held.
 struct StepWatcher : QObject {
     std::function<QString()> state;
     std::function<char()> read;
@@ -79,14 +68,13 @@ struct StepWatcher : QObject {
     }
 };
 
-bool black(QColor p) { return p.value() < 60; }
-
 // The size a label's text needs, rich text laid out as the label lays it out; one line of plain text: its ink.
 QSize textSize(QLabel* label) {
     const QFontMetrics fm = label->fontMetrics();
-    if (!Qt::mightBeRichText(label->text()))
-        return label->wordWrap() ? fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text()).size()
-                                 : QSize(fm.horizontalAdvance(label->text()), fm.tightBoundingRect(label->text()).height());
+    const QString text = label->text();
+    if (!Qt::mightBeRichText(text))
+        return label->wordWrap() ? fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, text).size()
+                                 : QSize(fm.horizontalAdvance(text), fm.tightBoundingRect(text).height());
     QTextDocument doc;
     doc.setDefaultFont(label->font());
     doc.setDocumentMargin(0);
@@ -95,8 +83,7 @@ QSize textSize(QLabel* label) {
     return {int(std::ceil(doc.idealWidth())), label->wordWrap() ? int(std::ceil(doc.size().height())) : 0};
 }
 
-// Every visible text of `top` that does not fit (a button's: in the room its style leaves), with a picture of the
-// screen, the scale in its name.
+// No visible text of `top` cut (a button's: in the room its style leaves); a picture named with the scale.
 void expectTextsFit(QWidget* top, const QString& name) {
     top->repaint();
     savePicture(screenOf(*top), QString("scale_%1_%2").arg(top->devicePixelRatioF(), 0, 'f', 2).arg(name));
@@ -140,7 +127,14 @@ class DisplayTest : public QObject {
     int taken = 0;
     QPoint origin;  // Wayland: where the window's content starts in a screenshot
 
-    QImage screenshot() { return ::screenshot(shots.path() + "/" + QString::number(taken++)); }
+    // A screenshot of the whole Wayland output, into a folder of its own (the tool names its file by the second).
+    QImage screenshot() {
+        const QString folder = shots.path() + "/" + QString::number(taken++);
+        QDir().mkpath(folder);
+        if (std::system(("cd '" + folder + "' && weston-screenshooter >/dev/null 2>&1").toLocal8Bit().constData()))
+            return QImage();
+        return QImage(folder + "/" + QDir(folder).entryList({"*.png"}).value(0));
+    }
     // What the display shows of `area` of a widget of the window.
     QImage shown(QWidget* w, QRect area) {
         const QRect at(w->mapTo(window, area.topLeft()), area.size());
@@ -148,15 +142,17 @@ class DisplayTest : public QObject {
     }
     QImage windowShown() { return shown(window, window->rect()); }
 
-    // Every tile but the caret pink on screen exactly when it holds the highlighted value.
-    void checkHighlight(const char* when) {
+    // The highlight is `expected` (-1: any); a tile but the caret is pink on screen just when it holds the value.
+    void checkHighlight(const char* when, int expected = -1) {
+        QVERIFY2(expected < 0 || window->highlight() == expected, when);
         QTRY_VERIFY_WITH_TIMEOUT(!window->isBusy(), 10000);
         auto wrong = [this] {
             const QImage shot = windowShown();
+            const int v = window->highlight();
             int n = 0;
             for (int i = 0; i < 81; ++i)
-                n += window->caret() != i && (background(shot, *window, i) == kPink) !=
-                                                 (window->highlight() && window->tileAt(i)->value() == window->highlight());
+                n += i != window->caret() &&
+                     (background(shot, *window, i) == kPink) != (v && window->tileAt(i)->value() == v);
             return n;
         };
         QTRY_VERIFY2_WITH_TIMEOUT(wrong() == 0, when, 10000);
@@ -180,8 +176,7 @@ private slots:
         QCOMPARE(background(shot, *window, firstEmpty(*window)), kWhite);
     }
 
-    // The first frame shows pictures of the tiles, drawn before their forms exist; the forms built just after it
-    // look exactly the same, on screen too. Shown as the program shows it, into a backing store made beforehand.
+    // The first frame's tile pictures (shown as the program shows them) and the forms built after look the same.
     void firstFrameMatchesBuiltTiles() {
         SudokuWindow fresh;
         const qreal ratio = fresh.devicePixelRatioF();
@@ -201,8 +196,7 @@ private slots:
                                   first.copy(QRect(area.topLeft() * ratio, area.size() * ratio)), 10000);
     }
 
-    // A refused value blinks visible, hidden, visible, hidden on screen; on X11 a burst of keys typed meanwhile with
-    // xdotool all counts.
+    // A refused value blinks visible, hidden, visible, hidden on screen; on X11 all keys of a burst meanwhile count.
     void refusedValueBlinks() {
         eng::Board* board = window->currentBoard();
         const int a = firstEmpty(*window), b = firstEmpty(*window, a), c = firstEmpty(*window, b);
@@ -217,7 +211,6 @@ private slots:
         }
         auto* label = child<QLabel>(*window->tileAt(a), "lblValue");
         QVERIFY(label->isHidden());  // shown with the digit typed, before the blink paints it
-        // 'V': red pixels inside the tile's border, the struck-through digit is shown.
         StepWatcher watcher(label, [label] { return QString(label->isHidden() ? "h" : "v"); },
                             [&] { return digitShown(shown(window->tileAt(a), QRect(8, 8, 44, 44))); }, ".VhVh");
         QTest::keyClick(window->tileAt(a), Qt::Key_0 + board->solutionValue(a) % 9 + 1);
@@ -237,7 +230,7 @@ private slots:
         QLabel* label = window->tileAt(a)->findChild<QLabel*>(QString("lbl%1").arg(v));
         auto step = [&] {
             const QImage image = shown(label, label->rect().adjusted(2, 2, -2, -2));
-            const int r = countPixels(image, red), k = countPixels(image, black);
+            const int r = countPixels(image, red), k = countPixels(image, [](QColor p) { return p.value() < 60; });
             return r > k ? 'R' : k > image.width() * image.height() / 2 ? 'B' : '-';
         };
         StepWatcher watcher(label, [label] { return label->styleSheet(); }, step, ".RBRB");
@@ -251,10 +244,9 @@ private slots:
     void noStaleHighlight() {
         const int given = firstFilled(*window), v = window->tileAt(given)->value();
         click(given);
-        QCOMPARE(window->highlight(), v);
-        checkHighlight("click");
-        click(given);  // a second click ends it
-        QCOMPARE(window->highlight(), 0);
+        checkHighlight("click", v);
+        click(given);
+        checkHighlight("a second click ends it", 0);
         click(given);
         const std::vector<int> before = shownValues(*window);
         MessageBoxAnswerer answerer;
@@ -275,9 +267,8 @@ private slots:
         for (int i = 0; i < 4; ++i) window->retractMove();
         checkHighlight("retract");
         const int empty = firstEmpty(*window), right = window->currentBoard()->solutionValue(empty);
-        window->tileValueEdited(empty, right);  // the highlight moves to the value entered
-        QCOMPARE(window->highlight(), right);
-        checkHighlight("value entered");
+        window->tileValueEdited(empty, right);
+        checkHighlight("the highlight moves to the value entered", right);
     }
 
     // In English and every language the program speaks, nothing of the window, its menus, toolbar, status bar and
@@ -330,8 +321,8 @@ private slots:
         const qreal ratio = window->devicePixelRatioF();
         for (QAction* action : window->findChild<QToolBar*>()->actions()) {
             const QList<QSize> sizes = action->icon().availableSizes();
-            QVERIFY2(action->isSeparator() || (sizes.contains(QSize(48, 48)) && (ratio <= 1 || sizes.contains(QSize(96, 96)))),
-                     qPrintable(action->objectName()));
+            const bool sharp = sizes.contains(QSize(48, 48)) && (ratio <= 1 || sizes.contains(QSize(96, 96)));
+            QVERIFY2(action->isSeparator() || sharp, qPrintable(action->objectName()));
         }
         AboutDialog about("1.0.4", window);
         auto* picture = child<QLabel>(about, "label");
