@@ -19,8 +19,7 @@ QImage screenOf(QWidget& w, QRect area = QRect(0, 0, -1, -1)) {
         QImage::Format_RGB32);
 }
 
-// Where the window's content lies in a screenshot: the offset at which it shows the window's own picture, tried on a
-// grid of points over the board, then all but 1% of the pixels the same; (-1, -1) when it is not there.
+// Where the window's content lies in a screenshot (a grid of points over the board, then all but 1% of the pixels).
 QPoint locate(const QImage& shot, SudokuWindow& w) {
     const QImage own = w.grab().toImage();
     const int width = own.width(), size = width * own.height();
@@ -264,8 +263,7 @@ private slots:
         checkHighlight("the highlight moves to the value entered", right);
     }
 
-    // In English and every language the program speaks, nothing of the window, its menus, toolbar, status bar and
-    // dialogs is cut, at every level; pictures of each for a person to look at. After the other checks.
+    // In every language nothing of the window at every level, its menus, toolbar, status bar and dialogs is cut.
     void textsFit_data() {
         addLanguageRows();
         QTest::newRow("en") << "en";
@@ -298,18 +296,15 @@ private slots:
         for (QAction* a : w->findChildren<QAction*>())
             QVERIFY2(w->statusBar()->fontMetrics().horizontalAdvance(a->statusTip()) <
                          w->statusBar()->contentsRect().width(), qPrintable(a->statusTip()));
-        PrintingInfo printing;
-        PencilMarksOptions pencilMarks;
         AboutDialog about("1.0.4", w.get());
-        for (QDialog* dialog : std::initializer_list<QDialog*>{&printing, &pencilMarks, &about}) {
-            dialog->show();
-            QVERIFY(QTest::qWaitForWindowExposed(dialog, 30000));
-            expectTextsFit(dialog, language + "_" + dialog->objectName());
+        for (QDialog* d : std::initializer_list<QDialog*>{&w->printingOptions(), &w->pencilMarksDialog(), &about}) {
+            d->show();
+            QVERIFY(QTest::qWaitForWindowExposed(d, 30000));
+            expectTextsFit(d, language + "_" + d->objectName());
         }
     }
 
-    // Every tool bar button has its picture; on a scaled screen the buttons and the about picture also have the
-    // pictures drawn at twice the size.
+    // Every tool bar button has its picture; when scaled, it and the about picture have one drawn at twice the size.
     void iconsSharp() {
         const qreal ratio = window->devicePixelRatioF();
         for (QAction* action : window->findChild<QToolBar*>()->actions()) {
@@ -322,8 +317,7 @@ private slots:
         QVERIFY(ratio <= 1 || picture->pixmap(Qt::ReturnByValue).width() >= picture->width() * ratio - 1);
     }
 
-    // Asked to maximise (and on X11 to resize), the window keeps its size, and the display shows it so. Last: on
-    // Wayland, Qt 5 answers the compositor's maximised state with its fixed size, which ends the connection.
+    // Asked to maximise or resize, the window keeps its size on screen. Last: on Wayland it ends Qt 5's connection.
     void fixedSize() {
         const QSize size = window->size();
         window->showMaximized();
