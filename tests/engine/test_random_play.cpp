@@ -1,6 +1,5 @@
-// Random play at every level: after every step the position keeps the invariants of a game, survives a save and a
-// load byte for byte, and the loaded board answers the next operation exactly as the original does.
-// SUDOKU_RANDOM_PLAY_SESSIONS sets the number of sessions (scripts/random-play.sh runs long ones).
+// Random play at every level: each position keeps a game's invariants and survives a save and load byte for byte,
+// and the loaded board answers the next operation as the original does. SUDOKU_RANDOM_PLAY_SESSIONS: sessions.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,8 +11,7 @@
 namespace {
 
 using eng::Board;
-using testing_support::saved;
-using testing_support::Transcript;
+using namespace testing_support;
 
 // What every position of a game keeps besides the shared checks; empty when all holds.
 std::string brokenInvariant(const Board& b) {
@@ -57,7 +55,7 @@ std::list<eng::Rules> randomRules(std::mt19937& rng) {
 }  // namespace
 
 TEST(RandomPlay, EveryStepKeepsTheGameConsistentAndSavable) {
-    testing_support::seedRandom(0);  // the seeds below win over the clock
+    seedRandom(0);  // the seeds below win over the clock
     std::mt19937 rng(20261123);
     const char* n = std::getenv("SUDOKU_RANDOM_PLAY_SESSIONS");
     const int sessions = n ? std::atoi(n) : kSessions;
@@ -95,7 +93,7 @@ TEST(RandomPlay, EveryStepKeepsTheGameConsistentAndSavable) {
             if (op == 7) {
                 rules.clear();
                 board = fresh(&t);
-                ASSERT_TRUE(testing_support::load(*board, saved(*twin))) << where;
+                ASSERT_TRUE(load(*board, saved(*twin))) << where;
                 continue;
             }
             const unsigned seed = unsigned(rng());

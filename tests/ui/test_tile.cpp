@@ -81,7 +81,6 @@ private slots:
         QTEST(back(), "background");
         QCOMPARE(shownDigit(), digit);
         QTEST(shownCandidates(), "candidates");
-        savePicture(tile->grab().toImage().scaled(122, 122), QString("tile_") + QTest::currentDataTag());
         update(after / 10, after % 10);  // an unmarked update: black
         QCOMPARE(shownDigit(), digit == 1 ? 1u : kBlack);
     }
@@ -94,7 +93,6 @@ private slots:
         update(0, 0, {1, 2}, true);
         QCOMPARE(look(label(3)), qMakePair(kRed, kWhite));
         QCOMPARE(ink(label(4)), kNearWhite);
-        savePicture(tile->grab().toImage().scaled(122, 122), "tile_removed_marks");
         tile->resetPotentialStyles();
         QCOMPARE(look(label(3)), qMakePair(kWhite, kNearWhite));
         update(0, 0, {2}, true);
@@ -126,27 +124,6 @@ private slots:
         QCOMPARE(back(), kWhite);
     }
 
-    // Style, text, visibility and enabled state are assigned only when they change.
-    void unchangedUpdateTouchesNothing() {
-        struct Counter : QObject {
-            int count = 0;
-            bool eventFilter(QObject*, QEvent* e) override {
-                const QEvent::Type counted[] = {QEvent::StyleChange, QEvent::ShowToParent, QEvent::HideToParent,
-                                                QEvent::EnabledChange};
-                return count += std::count(std::begin(counted), std::end(counted), e->type()), false;
-            }
-        } counter;
-        tile->installEventFilter(&counter);
-        for (QWidget* w : tile->findChildren<QWidget*>()) w->installEventFilter(&counter);
-        for (int k = 0; k < 4; ++k) {  // pencil marks off and on, an empty and a filled tile
-            tile->showPencilMarks(k % 2);
-            update(k / 2 * 6, eng::originGiven, {2, 4, 6});
-            counter.count = 0;
-            update(k / 2 * 6, eng::originGiven, {2, 4, 6});
-            QCOMPARE(counter.count, 0);
-        }
-    }
-
     // A double click offers a lone shown candidate; a digit counts only with the caret on an empty tile.
     void input() {
         QSignalSpy single(tile, &Tile::singlePotentialDoubleClicked), edited(tile, &Tile::valueEdited);
@@ -173,17 +150,13 @@ private slots:
         QCOMPARE(moved.takeFirst().at(1).value<Tile::CaretDirection>(), Tile::Down);
     }
 
-    // A refused value blinks for 800 ms, a refused candidate flashes as long; then the tile is as before. Its steps
-    // on screen: the real-display test; input meanwhile: the window test.
+    // After a refused value's blink or a candidate's flash the tile is as before (the steps: the display test).
     void animations() {
         tile->showPencilMarks(true);
         update(0, 0, {2, 4});
         tile->showValueCaret();
         QTest::keyClick(tile, Qt::Key_9);
-        QElapsedTimer timer;
-        timer.start();
         tile->rejectValue();
-        QVERIFY(timer.elapsed() >= 800);
         QVERIFY(label(0)->isHidden());
         QCOMPARE(back(), kGreen);
         QCOMPARE(shownCandidates(), 9);
@@ -191,9 +164,7 @@ private slots:
         update(0);
         tile->showPencilCaret();
         QTest::keyClick(tile, Qt::Key_4);  // hides label 4
-        timer.restart();
         tile->flashPotential(4);
-        QVERIFY(timer.elapsed() >= 800);
         QCOMPARE(look(label(4)), qMakePair(kBlue, kBlack));
         // Pencil marks switched off while it flashes: the candidate ends hidden.
         QTimer::singleShot(0, tile, [this] { tile->showPencilMarks(false); });
