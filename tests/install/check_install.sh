@@ -2,9 +2,8 @@
 # Installs the build into a DESTDIR as a desktop finds it (valid, translated desktop entry and AppStream metadata, the
 # entry's program and icons, the program starting), then checks the Debian package.   usage: check_install.sh BUILD_DIR
 set -euo pipefail
-build=$(realpath "$1") tmp=$(mktemp -d)
+build=$(realpath "$1") tmp=$(mktemp -d) usr=$tmp/root/usr
 trap 'rm -rf "$tmp"' EXIT
-usr=$tmp/root/usr
 fail() { echo "$*"; exit 1; }
 
 DESTDIR=$tmp/root cmake --install "$build" --prefix /usr >/dev/null
@@ -32,4 +31,3 @@ depends=$(dpkg-deb --field "$deb" Depends) recommends=$(dpkg-deb --field "$deb" 
   fail "the package's Qt dependencies: $depends; recommends: $recommends"
 diff <(cd "$tmp/root" && find . ! -type d | sort) <(dpkg-deb --contents "$deb" | awk '$1 !~ /^d/ {print $6}' | sort) ||
   fail "the package's files differ from the installed ones"
-echo "installed tree and $(basename "$deb") are complete"
