@@ -27,7 +27,8 @@ atexit.register(game.kill)
 
 
 def wait_for(condition, what):
-    for _ in range(1200):  # a minute at least
+    end = time.time() + 60
+    while time.time() < end:
         while GLib.MainContext.default().iteration(False):
             pass
         with contextlib.suppress(Exception):
