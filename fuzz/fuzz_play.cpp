@@ -15,33 +15,31 @@
 #include <vector>
 
 #include "Board.h"
+#include "PlayInvariants.h"
 
 namespace {
 
 constexpr int kMaxSteps = 200;
 constexpr int kMaxGames = 2;
 
-[[noreturn]] void broken(const char* what) {
-    std::fprintf(stderr, "broken: %s\n", what);
+// Aborts on a broken check.
+void check(const std::string& broken) {
+    if (broken.empty()) return;
+    std::fprintf(stderr, "broken: %s\n", broken.c_str());
     std::abort();
 }
 
 // Every report about cells carries the 81 cells in index order.
 class CheckingObserver : public eng::BoardObserver {
 public:
-    void cellsChanged(const std::vector<eng::CellInfo*>& cells) override { check(cells); }
-    void noMoreMoves(const std::vector<eng::CellInfo*>& cells) override { check(cells); }
-    void cellHasNoSolution(const std::vector<eng::CellInfo*>& cells, int) override { check(cells); }
+    void cellsChanged(const std::vector<eng::CellInfo*>& cells) override { check(play_invariants::cellReport(cells)); }
+    void noMoreMoves(const std::vector<eng::CellInfo*>& cells) override { check(play_invariants::cellReport(cells)); }
+    void cellHasNoSolution(const std::vector<eng::CellInfo*>& cells, int) override {
+        check(play_invariants::cellReport(cells));
+    }
     void loadFailed(int, int) override {}
     void valueRefused(int, int) override {}
     void potentialRefused(int, int) override {}
-
-private:
-    static void check(const std::vector<eng::CellInfo*>& cells) {
-        if (cells.size() != 81) broken("a cell report without 81 cells");
-        for (size_t i = 0; i < cells.size(); ++i)
-            if (!cells[i] || cells[i]->index() != static_cast<int>(i)) broken("a cell report out of index order");
-    }
 };
 
 class Script {
@@ -74,43 +72,11 @@ private:
     size_t pos = 0;
 };
 
-std::string saved(eng::Board& b) {
-    std::ostringstream out(std::ios::binary);
-    b.serialize(out);
-    return out.str();
-}
-
-// No digit twice in a row, column or square among the placed values.
-void checkPlacedValues(const eng::Board& b) {
-    if (!b.cell(0)) return;
-    int seen[27] = {};  // rows, columns, squares: a bit for each digit placed
-    for (int i = 0; i < 81; ++i) {
-        const int v = b.cell(i)->value();
-        if (v < 0 || v > 9) broken("a value outside 0-9");
-        if (v == 0) continue;
-        for (int unit : {i / 9, 9 + i % 9, 18 + i / 27 * 3 + i % 9 / 3}) {
-            if (seen[unit] & (1 << v)) broken("a digit twice in a row, column or square");
-            seen[unit] |= 1 << v;
-        }
-    }
-}
-
 // Saved and opened in a new board: the same bytes and the same cells. The new board replaces the old one, with
 // the rule list the old one had, as the window does after it opens a game.
 void roundTrip(std::unique_ptr<eng::Board>& board, eng::BoardObserver* observer) {
-    const std::string bytes = saved(*board);
     auto twin = std::make_unique<eng::Board>(observer);
-    std::istringstream in(bytes, std::ios::binary);
-    if (!twin->deserialize(in)) broken("a saved game does not open");
-    if (saved(*twin) != bytes) broken("a reopened game saves other bytes");
-    for (int i = 0; i < 81; ++i) {
-        const eng::CellInfo *a = board->cell(i), *b = twin->cell(i);
-        if (!a != !b) broken("a reopened game has other positions");
-        if (!a) continue;
-        bool same = a->value() == b->value() && a->origin() == b->origin();
-        for (int v = 1; v <= 9; ++v) same = same && a->isPotential(v) == b->isPotential(v);
-        if (!same) broken("a reopened game has other cells");
-    }
+    check(play_invariants::reopened(*board, *twin));
     twin->setPencilMarksRules(board->pencilMarksRulesList());
     board = std::move(twin);
 }
@@ -154,7 +120,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         case 7: board->isComplete(); break;
         default: roundTrip(board, &observer); break;
         }
-        checkPlacedValues(*board);
+        check(play_invariants::repeatedDigit(*board));  // no digit twice in a row, column or square
     }
     roundTrip(board, &observer);
     return 0;

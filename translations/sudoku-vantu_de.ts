@@ -555,6 +555,12 @@ Fortfahren?</translation>
         <translation>Drucken fehlgeschlagen.</translation>
     </message>
     <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>Die Version der geladenen Datei ist nicht kompatibel
+(erwartete Version: %1, tatsächliche Version: %2)</translation>
+    </message>
+    <message>
         <source>difficulty: Expert</source>
         <translation>Stufe: Experte</translation>
     </message>

@@ -555,6 +555,12 @@ Continue?</source>
         <translation>No se pudo imprimir.</translation>
     </message>
     <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>La versión del archivo cargado no es compatible
+(versión esperada: %1, versión real: %2)</translation>
+    </message>
+    <message>
         <source>difficulty: Expert</source>
         <translation>dificultad: Experto</translation>
     </message>

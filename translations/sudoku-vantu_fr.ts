@@ -555,6 +555,12 @@ Continuer ?</translation>
         <translation>L’impression a échoué.</translation>
     </message>
     <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>La version du fichier chargé est incompatible
+(version attendue : %1, version réelle : %2)</translation>
+    </message>
+    <message>
         <source>difficulty: Expert</source>
         <translation>niveau : Expert</translation>
     </message>

@@ -555,6 +555,12 @@ Continuare?</translation>
         <translation>Stampa non riuscita.</translation>
     </message>
     <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>La versione del file caricato non è compatibile
+(versione prevista: %1, versione effettiva: %2)</translation>
+    </message>
+    <message>
         <source>difficulty: Expert</source>
         <translation>livello: Esperto</translation>
     </message>

@@ -555,6 +555,12 @@ Continue?</source>
         <translation>印刷できませんでした。</translation>
     </message>
     <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>読み込んだファイルのバージョンに互換性がありません
+（必要なバージョン：%1、実際のバージョン：%2）</translation>
+    </message>
+    <message>
         <source>difficulty: Expert</source>
         <translation>難易度: エキスパート</translation>
     </message>

@@ -555,6 +555,12 @@ Continuar?</translation>
         <translation>Falha ao imprimir.</translation>
     </message>
     <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>A versão do arquivo carregado é incompatível
+(versão esperada: %1, versão real: %2)</translation>
+    </message>
+    <message>
         <source>difficulty: Expert</source>
         <translation>dificuldade: especialista</translation>
     </message>

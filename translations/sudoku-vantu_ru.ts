@@ -555,6 +555,12 @@ Continue?</source>
         <translation>Не удалось напечатать.</translation>
     </message>
     <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>Версия загруженного файла несовместима
+(ожидаемая версия: %1, фактическая версия: %2)</translation>
+    </message>
+    <message>
         <source>difficulty: Expert</source>
         <translation>сложность: эксперт</translation>
     </message>

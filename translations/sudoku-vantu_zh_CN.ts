@@ -555,6 +555,12 @@ Continue?</source>
         <translation>打印失败。</translation>
     </message>
     <message>
+        <source>Loaded file version is incompatible
+(expected version: %1 actual version: %2)</source>
+        <translation>载入的文件版本不兼容
+（预期版本：%1，实际版本：%2）</translation>
+    </message>
+    <message>
         <source>difficulty: Expert</source>
         <translation>难度：专家</translation>
     </message>

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QWidget>
-#include <qpa/qplatformbackingstore.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -54,10 +53,11 @@ void showAtStartUp(QWidget& window) {
     // Only where the store is known to be made on resize; elsewhere (Wayland) it is made when first painted.
     if (QGuiApplication::platformName() != QLatin1String("xcb")) return;
     QBackingStore* store = window.backingStore();
-    if (!store || !store->handle()) return;
+    if (!store) return;
     // The repaint keeps a store of the window's size: made now, it is kept.
     if (store->size() != window.size()) store->resize(window.size());
-    QPaintDevice* device = store->handle()->paintDevice();
+    // On xcb the store paints into an image (shared with the X server or not) whose bits are the pages to map.
+    QPaintDevice* device = store->paintDevice();
     if (!device || device->devType() != QInternal::Image) return;
     const auto* image = static_cast<const QImage*>(device);
     mapPages(image->constBits(), image->constBits() + image->sizeInBytes());

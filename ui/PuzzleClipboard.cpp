@@ -29,7 +29,7 @@ PuzzleClipboard::PuzzleClipboard(QWidget* window, StartGame start)
     : QObject(window), window(window), start(std::move(start)) {}
 
 bool PuzzleClipboard::paste(bool askFirst) {
-    const QString title = QStringLiteral("Sudoku Vantu");
+    const QString title = QStringLiteral("Sudoku Vantu");  // notr: the program's name
     // Web pages put no-break and other spaces between cells: all count as blanks.
     QString text = QGuiApplication::clipboard()->text();
     for (QChar& c : text)

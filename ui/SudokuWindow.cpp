@@ -25,7 +25,7 @@
 
 namespace {
 
-const char* const kTitle = "Sudoku Vantu";
+const char* const kTitle = "Sudoku Vantu";  // notr: the program's name, the same in every language
 const char* const kVersion = "1.0.4";
 constexpr int kCelebrationStepMs = 300;
 
@@ -302,7 +302,7 @@ void SudokuWindow::loadFailed(int expectedVersion, int actualVersion) {
         showMessage(QMessageBox::Warning, tr("This is not a valid .sud file"));
     else
         showMessage(QMessageBox::Warning,
-                    QString("Loaded file version is incompatible\n(expected version: %1 actual version: %2)")
+                    tr("Loaded file version is incompatible\n(expected version: %1 actual version: %2)")
                         .arg(expectedVersion)
                         .arg(actualVersion));
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Board.h"
+#include "PlayInvariants.h"
 
 namespace testing_support {
 
@@ -18,13 +19,11 @@ struct Transcript : eng::BoardObserver {
 
     void cells(const char* what, const std::vector<eng::CellInfo*>& cells) {
         text += std::string(what) + ' ' + std::to_string(cells.size());
-        for (size_t i = 0; i < cells.size(); ++i) {
-            if (cells[i]->index() != int(i)) problem = "cell list out of index order";
-            if (!detailed) continue;
+        for (size_t i = 0; i < cells.size() && detailed; ++i) {
             text += ' ' + std::to_string(cells[i]->value()) + std::to_string(cells[i]->origin());
             for (int v = 1; v <= 9; ++v) text += cells[i]->isPotential(v) ? char('0' + v) : '.';
         }
-        if (cells.size() != 81) problem = std::string(what) + " with " + std::to_string(cells.size()) + " cells";
+        if (problem.empty()) problem = play_invariants::cellReport(cells);
         text += '\n';
     }
     void note(const char* what, int a, int b) {
@@ -41,11 +40,7 @@ struct Transcript : eng::BoardObserver {
     std::string take() { return std::exchange(text, std::string()); }  // the reports since the last call
 };
 
-inline std::string saved(eng::Board& b) {
-    std::ostringstream out(std::ios::binary);
-    b.serialize(out);
-    return out.str();
-}
+using play_invariants::saved;
 
 inline bool load(eng::Board& b, const std::string& bytes) {
     std::istringstream in(bytes, std::ios::binary);

@@ -1,19 +1,13 @@
-// Every catalogue under translations/ against the texts lupdate finds in ui/ now: nothing missing, unfinished or
-// obsolete; placeholders, line breaks and "&" marks kept; no two entries of one menu on the same mnemonic.
-#include <QMenu>
-#include <QMenuBar>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QXmlStreamReader>
+// Each catalogue against the texts lupdate finds in ui/: none missing, unfinished or obsolete; %1, line breaks and &
+// kept; no mnemonic twice in a menu; no sentence in the sources that bypasses translation.
+#include <QtWidgets>
 
 #include "Translations.h"
 #include "WindowTestSupport.h"
 
 namespace {
 
-struct Message {
-    QString translation, type;
-};
+struct Message { QString translation, type; };
 using Catalogue = QMap<QString, Message>;  // "context|source" → translation
 
 Catalogue read(const QString& path) {
@@ -25,12 +19,10 @@ Catalogue read(const QString& path) {
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         if (xml.name() == QLatin1String("name")) context = xml.readElementText();
-        else if (xml.name() == QLatin1String("source")) source = xml.readElementText();
-        else if (xml.name() == QLatin1String("translation")) {
-            Message& m = out[context + '|' + source];
-            m.type = xml.attributes().value("type").toString();
-            m.translation = xml.readElementText();
-        }
+        if (xml.name() == QLatin1String("source")) source = xml.readElementText();
+        if (xml.name() != QLatin1String("translation")) continue;
+        const QString type = xml.attributes().value("type").toString();
+        out[context + '|' + source] = {xml.readElementText(), type};
     }
     if (xml.hasError()) qFatal("%s: %s", qPrintable(path), qPrintable(xml.errorString()));
     return out;
@@ -45,17 +37,12 @@ QStringList marks(const QString& text) {
     return out;
 }
 
-QChar mnemonic(const QString& text) {
-    const QRegularExpressionMatch m = QRegularExpression("&([^&])").match(QString(text).remove("&&"));
-    return m.hasMatch() ? m.captured(1).at(0).toLower() : QChar();
-}
-
+// No two entries of one menu underline the same letter.
 void expectUniqueMnemonics(const QString& menu, const QList<QAction*>& actions) {
-    QMap<QChar, QString> seen;
+    QMap<QString, QString> seen;
     for (QAction* a : actions) {
-        const QChar key = mnemonic(a->text());
-        if (key.isNull()) continue;
-        QVERIFY2(!seen.contains(key), qPrintable(menu + ": " + seen[key] + " / " + a->text()));
+        const QString key = QRegularExpression("&([^&])").match(QString(a->text()).remove("&&")).captured(1).toLower();
+        QVERIFY2(key.isEmpty() || !seen.contains(key), qPrintable(menu + ": " + seen[key] + " / " + a->text()));
         seen[key] = a->text();
     }
 }
@@ -77,22 +64,16 @@ private slots:
         QVERIFY(lupdate.waitForFinished(60000));
         QCOMPARE(lupdate.exitCode(), 0);
         current = read(ts);
-        QVERIFY(current.size() > 100);
     }
 
     void catalogue_data() { addLanguageRows(); }
     void catalogue() {
         QFETCH(QString, language);
-        const QString path = QString(SUDOKU_SOURCE_DIR "/translations/sudoku-vantu_%1.ts").arg(language);
-        QVERIFY2(QFile::exists(path), qPrintable(path));
-        const Catalogue catalogue = read(path);
-        for (auto it = current.cbegin(); it != current.cend(); ++it)
-            QVERIFY2(catalogue.contains(it.key()), qPrintable("missing: " + it.key()));
+        const Catalogue catalogue = read(QString(SUDOKU_SOURCE_DIR "/translations/sudoku-vantu_%1.ts").arg(language));
+        QCOMPARE(catalogue.keys(), current.keys());  // none missing, none left over
         for (auto it = catalogue.cbegin(); it != catalogue.cend(); ++it) {
             const QString& key = it.key();
-            QVERIFY2(current.contains(key) && it->type != "obsolete" && it->type != "vanished",
-                     qPrintable("obsolete: " + key));
-            QVERIFY2(it->type.isEmpty() && !it->translation.isEmpty(), qPrintable("unfinished: " + key));
+            QVERIFY2(it->type.isEmpty() && !it->translation.isEmpty(), qPrintable("unfinished or obsolete: " + key));
             QVERIFY2(marks(key.section('|', 1)) == marks(it->translation),
                      qPrintable("placeholder, line break or & lost: " + it->translation));
         }
@@ -103,6 +84,30 @@ private slots:
         SudokuWindow window;
         expectUniqueMnemonics("menu bar", window.menuBar()->actions());
         for (QMenu* menu : window.findChildren<QMenu*>()) expectUniqueMnemonics(menu->title(), menu->actions());
+    }
+
+    // A sentence in the sources (a literal that starts with a capital and has a space, not a style sheet) reaches
+    // the player: it must be what tr() or a QT_TR_NOOP mark gets, or stand on a line marked "notr".
+    void everySentenceTranslated() {
+        const QRegularExpression literal("\"((?:[^\"\\\\\\n]|\\\\.)*)\""), sentence("^[A-Z][^{;]* [^{;]*$");
+        const QRegularExpression marked("(\\btr|QT_TR_NOOP|QT_TRANSLATE_NOOP|translate)\\(\\s*(\"[^\"]*\",\\s*)?$");
+        QDir ui(SUDOKU_SOURCE_DIR "/ui");
+        for (const QString& name : ui.entryList({"*.cpp", "*.h"})) {
+            QFile file(ui.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString code = QString::fromUtf8(file.readAll());
+            for (auto it = literal.globalMatch(code); it.hasNext();) {
+                const QRegularExpressionMatch m = it.next();
+                const int at = int(m.capturedStart()), lineStart = int(code.lastIndexOf('\n', at)) + 1;
+                const QString line = code.mid(lineStart, code.indexOf('\n', at) - lineStart);
+                if (!sentence.match(m.captured(1)).hasMatch() || line.trimmed().startsWith("//") ||
+                    line.startsWith("#include") || line.contains("notr"))
+                    continue;
+                const int from = std::max(0, at - 200);
+                QVERIFY2(marked.match(code.mid(from, at - from)).hasMatch(),
+                         qPrintable(name + ": not translated: " + m.captured(1)));
+            }
+        }
     }
 
     // The desktop's languages are taken in order, one without a catalogue skipped (ctest sets LANGUAGE=nl:fr:de).
