@@ -1,20 +1,13 @@
-// Every catalogue under translations/ against the texts lupdate finds in ui/ now: nothing missing, unfinished or
-// obsolete; placeholders, line breaks and "&" marks kept; no two entries of one menu on the same mnemonic; no sentence
-// in the sources that bypasses translation.
-#include <QMenu>
-#include <QMenuBar>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QXmlStreamReader>
+// Each catalogue against the texts lupdate finds in ui/: none missing, unfinished or obsolete; %1, line breaks and &
+// kept; no mnemonic twice in a menu; no sentence in the sources that bypasses translation.
+#include <QtWidgets>
 
 #include "Translations.h"
 #include "WindowTestSupport.h"
 
 namespace {
 
-struct Message {
-    QString translation, type;
-};
+struct Message { QString translation, type; };
 using Catalogue = QMap<QString, Message>;  // "context|source" → translation
 
 Catalogue read(const QString& path) {
@@ -26,12 +19,10 @@ Catalogue read(const QString& path) {
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         if (xml.name() == QLatin1String("name")) context = xml.readElementText();
-        else if (xml.name() == QLatin1String("source")) source = xml.readElementText();
-        else if (xml.name() == QLatin1String("translation")) {
-            Message& m = out[context + '|' + source];
-            m.type = xml.attributes().value("type").toString();
-            m.translation = xml.readElementText();
-        }
+        if (xml.name() == QLatin1String("source")) source = xml.readElementText();
+        if (xml.name() != QLatin1String("translation")) continue;
+        const QString type = xml.attributes().value("type").toString();
+        out[context + '|' + source] = {xml.readElementText(), type};
     }
     if (xml.hasError()) qFatal("%s: %s", qPrintable(path), qPrintable(xml.errorString()));
     return out;
@@ -46,17 +37,12 @@ QStringList marks(const QString& text) {
     return out;
 }
 
-QChar mnemonic(const QString& text) {
-    const QRegularExpressionMatch m = QRegularExpression("&([^&])").match(QString(text).remove("&&"));
-    return m.hasMatch() ? m.captured(1).at(0).toLower() : QChar();
-}
-
+// No two entries of one menu underline the same letter.
 void expectUniqueMnemonics(const QString& menu, const QList<QAction*>& actions) {
-    QMap<QChar, QString> seen;
+    QMap<QString, QString> seen;
     for (QAction* a : actions) {
-        const QChar key = mnemonic(a->text());
-        if (key.isNull()) continue;
-        QVERIFY2(!seen.contains(key), qPrintable(menu + ": " + seen[key] + " / " + a->text()));
+        const QString key = QRegularExpression("&([^&])").match(QString(a->text()).remove("&&")).captured(1).toLower();
+        QVERIFY2(key.isEmpty() || !seen.contains(key), qPrintable(menu + ": " + seen[key] + " / " + a->text()));
         seen[key] = a->text();
     }
 }
@@ -78,22 +64,16 @@ private slots:
         QVERIFY(lupdate.waitForFinished(60000));
         QCOMPARE(lupdate.exitCode(), 0);
         current = read(ts);
-        QVERIFY(current.size() > 100);
     }
 
     void catalogue_data() { addLanguageRows(); }
     void catalogue() {
         QFETCH(QString, language);
-        const QString path = QString(SUDOKU_SOURCE_DIR "/translations/sudoku-vantu_%1.ts").arg(language);
-        QVERIFY2(QFile::exists(path), qPrintable(path));
-        const Catalogue catalogue = read(path);
-        for (auto it = current.cbegin(); it != current.cend(); ++it)
-            QVERIFY2(catalogue.contains(it.key()), qPrintable("missing: " + it.key()));
+        const Catalogue catalogue = read(QString(SUDOKU_SOURCE_DIR "/translations/sudoku-vantu_%1.ts").arg(language));
+        QCOMPARE(catalogue.keys(), current.keys());  // none missing, none left over
         for (auto it = catalogue.cbegin(); it != catalogue.cend(); ++it) {
             const QString& key = it.key();
-            QVERIFY2(current.contains(key) && it->type != "obsolete" && it->type != "vanished",
-                     qPrintable("obsolete: " + key));
-            QVERIFY2(it->type.isEmpty() && !it->translation.isEmpty(), qPrintable("unfinished: " + key));
+            QVERIFY2(it->type.isEmpty() && !it->translation.isEmpty(), qPrintable("unfinished or obsolete: " + key));
             QVERIFY2(marks(key.section('|', 1)) == marks(it->translation),
                      qPrintable("placeholder, line break or & lost: " + it->translation));
         }

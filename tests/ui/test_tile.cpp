@@ -1,7 +1,5 @@
-// The cell widget: what it shows in each state (read from its pictures), its input signals and the feedback
-// animations.
-#include <QLabel>
-#include <QSignalSpy>
+// The cell widget: what it shows in each state (read from its pictures), its input and its feedback animations.
+#include <QtWidgets>
 
 #include "WindowTestSupport.h"
 
@@ -19,10 +17,7 @@ class TileTest : public QObject {
         eng_priv::Cell cell;
         cell.reset(37);
         cell.keepOnlyPotentials(candidates);
-        if (value) {
-            cell.setSinglePotential(value);
-            cell.setValue(value, origin);
-        }
+        if (value) cell.setSinglePotential(value), cell.setValue(value, origin);
         tile->updateFromCell(cell, mark);
     }
     QLabel* label(int v) { return tile->findChild<QLabel*>(v ? QString("lbl%1").arg(v) : QString("lblValue")); }
@@ -79,16 +74,15 @@ private slots:
         QFETCH(int, before);
         QFETCH(int, after);
         QFETCH(QRgb, digit);
+        auto shownDigit = [this] { return label(0)->isVisible() ? ink(label(0)) : 1u; };
         tile->showPencilMarks(pencil);
         update(before / 10, before % 10);
         update(after / 10, after % 10, {1, 2, 3, 4, 5, 6, 7, 8, 9}, true);
         QTEST(back(), "background");
-        QCOMPARE(label(0)->isVisible(), digit != 1);
-        if (digit != 1) QCOMPARE(ink(label(0)), digit);
+        QCOMPARE(shownDigit(), digit);
         QTEST(shownCandidates(), "candidates");
-        savePicture(tile->grab().toImage().scaled(122, 122), QString("tile_") + QTest::currentDataTag());
         update(after / 10, after % 10);  // an unmarked update: black
-        if (digit != 1) QCOMPARE(ink(label(0)), kBlack);
+        QCOMPARE(shownDigit(), digit == 1 ? 1u : kBlack);
     }
 
     // Candidates kept black, the others near-white; removed with marking, white on red until reset or updated.
@@ -99,7 +93,6 @@ private slots:
         update(0, 0, {1, 2}, true);
         QCOMPARE(look(label(3)), qMakePair(kRed, kWhite));
         QCOMPARE(ink(label(4)), kNearWhite);
-        savePicture(tile->grab().toImage().scaled(122, 122), "tile_removed_marks");
         tile->resetPotentialStyles();
         QCOMPARE(look(label(3)), qMakePair(kWhite, kNearWhite));
         update(0, 0, {2}, true);
@@ -107,23 +100,21 @@ private slots:
         QCOMPARE(look(label(1)), qMakePair(kWhite, kNearWhite));
     }
 
+    // The carets' colours, kept by updates; a highlight ends in the look before it, also after the caret left.
     void caretAndHighlight() {
-        tile->showValueCaret();
-        update(0);  // updates keep the caret colour
-        QCOMPARE(back(), kGreen);
-        QCOMPARE(tile->hideCaret(), Tile::ValueCaret);
-        QCOMPARE(back(), kWhite);
-        tile->showPencilCaret();
-        QCOMPARE(back(), kBlue);
-        QCOMPARE(tile->hideCaret(), Tile::PencilCaret);
-        // A highlighted given returns to grey when the highlight ends.
+        for (auto [mode, colour] : {qMakePair(Tile::ValueCaret, kGreen), qMakePair(Tile::PencilCaret, kBlue)}) {
+            mode == Tile::ValueCaret ? tile->showValueCaret() : tile->showPencilCaret();
+            update(0);
+            QCOMPARE(back(), colour);
+            QCOMPARE(tile->hideCaret(), mode);
+            QCOMPARE(back(), kWhite);
+        }
         update(4, eng::originGiven);
         tile->highlightValue(4, 0);
         QCOMPARE(back(), kPink);
         tile->highlightValue(4, 4);  // re-applied: keeps the look saved before
         tile->highlightValue(0, 4);
         QCOMPARE(back(), kGiven);
-        // Hiding the caret of a highlighted tile keeps the pink; the highlight then ends white.
         update(3, eng::originPlayer);
         tile->showValueCaret();
         tile->highlightValue(3, 0);
@@ -133,32 +124,10 @@ private slots:
         QCOMPARE(back(), kWhite);
     }
 
-    // Style, text, visibility and enabled state are assigned only when they change.
-    void unchangedUpdateTouchesNothing() {
-        struct Counter : QObject {
-            int count = 0;
-            bool eventFilter(QObject*, QEvent* e) override {
-                const auto t = e->type();
-                count += t == QEvent::StyleChange || t == QEvent::ShowToParent || t == QEvent::HideToParent ||
-                         t == QEvent::EnabledChange;
-                return false;
-            }
-        } counter;
-        tile->installEventFilter(&counter);
-        for (QWidget* w : tile->findChildren<QWidget*>()) w->installEventFilter(&counter);
-        for (int k = 0; k < 4; ++k) {  // pencil marks off and on, an empty and a filled tile
-            tile->showPencilMarks(k % 2);
-            update(k / 2 * 6, eng::originGiven, {2, 4, 6});
-            counter.count = 0;
-            update(k / 2 * 6, eng::originGiven, {2, 4, 6});
-            QCOMPARE(counter.count, 0);
-        }
-    }
-
+    // A double click offers a lone shown candidate; a digit counts only with the caret on an empty tile.
     void input() {
         QSignalSpy single(tile, &Tile::singlePotentialDoubleClicked), edited(tile, &Tile::valueEdited);
         QSignalSpy moved(tile, &Tile::moveCaret);
-        // A double click on a tile with a single candidate shown offers it.
         tile->showPencilMarks(true);
         update(0, 0, {6});
         QTest::mouseDClick(tile, Qt::RightButton);
@@ -166,7 +135,6 @@ private slots:
         tile->showPencilMarks(false);  // not when the candidate is hidden
         QTest::mouseDClick(tile, Qt::LeftButton);
         QCOMPARE(single.count(), 0);
-
         QTest::keyClick(tile, Qt::Key_5);  // no caret: nothing
         QTest::keyClick(tile, Qt::Key_Left);
         tile->showValueCaret();
@@ -175,7 +143,6 @@ private slots:
         QCOMPARE(edited.count() + moved.count(), 0);
         QTest::keyClick(tile, Qt::Key_7, Qt::KeypadModifier);
         QCOMPARE(edited.takeFirst(), (QVariantList{37, 7}));
-        QCOMPARE(tile->value(), 7);
         QTest::keyClick(tile, Qt::Key_3);  // the tile has a value now
         QCOMPARE(edited.count(), 0);
         QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_Down, Qt::NoModifier, QString(), true);
@@ -183,28 +150,21 @@ private slots:
         QCOMPARE(moved.takeFirst().at(1).value<Tile::CaretDirection>(), Tile::Down);
     }
 
-    // A refused value blinks for 800 ms, a refused candidate flashes as long; then the tile is as before. Its steps
-    // on screen: the real-display test; input meanwhile: the window test.
+    // After a refused value's blink or a candidate's flash the tile is as before (the steps: the display test).
     void animations() {
         tile->showPencilMarks(true);
         update(0, 0, {2, 4});
         tile->showValueCaret();
         QTest::keyClick(tile, Qt::Key_9);
-        QElapsedTimer timer;
-        timer.start();
         tile->rejectValue();
-        QVERIFY(timer.elapsed() >= 800);
         QVERIFY(label(0)->isHidden());
         QCOMPARE(back(), kGreen);
         QCOMPARE(shownCandidates(), 9);
         QCOMPARE(ink(label(5)), kNearWhite);
-
         update(0);
         tile->showPencilCaret();
         QTest::keyClick(tile, Qt::Key_4);  // hides label 4
-        timer.restart();
         tile->flashPotential(4);
-        QVERIFY(timer.elapsed() >= 800);
         QCOMPARE(look(label(4)), qMakePair(kBlue, kBlack));
         // Pencil marks switched off while it flashes: the candidate ends hidden.
         QTimer::singleShot(0, tile, [this] { tile->showPencilMarks(false); });
@@ -212,8 +172,9 @@ private slots:
         QVERIFY(label(4)->isHidden());
     }
 
+    // A tile deleted while it blinks or flashes: the animation returns without touching it.
     void tileDestroyedDuringAnimation() {
-        for (bool flash : {false, true}) {  // must return without touching the dead tile
+        for (bool flash : {false, true}) {
             if (flash) init();
             QTimer::singleShot(250, this, [this] { delete std::exchange(tile, nullptr); });
             flash ? tile->flashPotential(2) : tile->rejectValue();
