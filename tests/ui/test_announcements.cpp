@@ -1,6 +1,5 @@
-// What a screen reader is told of moves and on the reading keys: each result once, as a notification that appears
-// with its text, in English and German; nothing while no reader listens.
-// The offscreen platform has no screen reader; its accessibility is switched on by hand, as Qt's own tests do.
+// What a screen reader is told of moves and reading keys: once each, English and German, nothing without a reader.
+// Offscreen has no screen reader, so accessibility is switched on by hand, as Qt's own tests do.
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
@@ -13,36 +12,33 @@ static void record(QAccessibleEvent* event) {
     QAccessibleInterface* i = event->type() == QAccessible::ObjectShow ? event->accessibleInterface() : nullptr;
     if (i && i->role() == QAccessible::Notification) spoken << i->text(QAccessible::Name);
 }
-static void setActive(bool on) { QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(on); }
 
 class AnnouncementsTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { QAccessible::installUpdateHandler(record); }
 
-    // The game (edit: a User Edit board with 7, 4, 9 and 2 at rows 3, 3, 1, 5, columns 8, 4, 5, 5; others a generated
+    // The game (UserEdit: a board with 7, 4, 9 and 2 at rows 3, 3, 1, 5, columns 8, 4, 5, 5; others a generated
     // game, changed as named), the cell the keys are typed on (none: cell i below), the keys, the texts then said.
     void announcements_data() {
         for (const char* column : {"language", "game", "cell", "keys", "said"}) QTest::addColumn<QString>(column);
         QTest::newRow("row clash, placed, reading keys, then without the caret")
-            << "en" << "edit" << "22" << "75RCBN.R"
+            << "en" << "UserEdit" << "22" << "75RCBN.R"
             << "7 refused: row 3 already has 7 at column 8|Row 3, column 5: 5|"
                "Row 3: empty, empty, empty, 4, 5, empty, empty, 7, empty|"
                "Column 5: 9, empty, 5, empty, 2, empty, empty, empty, empty|"
                "Box 2: empty, 9, empty, empty, empty, empty, 4, 5, empty|"
                "Still to place: 9 of digit 1, 8 of digit 2, 9 of digit 3, 8 of digit 4, 8 of digit 5, 9 of digit 6, "
                "8 of digit 7, 9 of digit 8, 8 of digit 9|Row 3: empty, empty, empty, 4, 5, empty, empty, 7, empty";
-        QTest::newRow("column clash") << "en" << "edit" << "70" << "7" << "7 refused: column 8 already has 7 at row 3";
-        QTest::newRow("box") << "en" << "edit" << "15" << "7" << "7 refused: box 3 already has 7 at row 3, column 8";
-        QTest::newRow("German") << "de" << "edit" << "15" << "75B"
-                                << "7 abgelehnt: Block 3 hat schon 7 in Zeile 3, Spalte 8|Zeile 2, Spalte 7: 5|"
-                                   "Block 3: leer, leer, leer, 5, leer, leer, leer, 7, leer";
+        QTest::newRow("column") << "en" << "UserEdit" << "70" << "7" << "7 refused: column 8 already has 7 at row 3";
+        QTest::newRow("German") << "de" << "UserEdit" << "15" << "75B" << "7 abgelehnt: Block 3 hat schon 7 in "
+            "Zeile 3, Spalte 8|Zeile 2, Spalte 7: 5|Block 3: leer, leer, leer, 5, leer, leer, leer, 7, leer";
         QTest::newRow("refused, marks toggled, placed, retracted, made again")
             << "en" << "generated" << "" << "wp wwr prum"
             << "%w refused: not this cell's digit|candidate %w removed|candidate %w back|candidate %r refused|%c%r|"
                "%cempty|%c%r";
         // Bad input: each text once and in order, or nothing.
-        QTest::newRow("full board") << "en" << "completed" << "" << "R.N"
+        QTest::newRow("full board") << "en" << "Completed" << "" << "R.N"
                                     << "New game, difficulty: none, 0 empty cells|%R|Every digit is placed";
         QTest::newRow("during a blink") << "en" << "blink" << "" << "w" << "%w refused: not this cell's digit|%R";
         QTest::newRow("during the celebration")
@@ -57,22 +53,20 @@ private slots:
         QFETCH(QString, said);
         QFETCH(QString, cell);
         Translations catalogue{QLocale(language)};
-        setActive(game != "no reader");
+        QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(game != "no reader");
         std::unique_ptr<SudokuWindow> w(shownWindow());
         MessageBoxAnswerer answerer;
         QTemporaryDir dir;
         w->setFileNameProvider([&](SudokuWindow::FileRequest) { return dir.filePath("game.sud"); });
-        if (game == "edit") trigger(*w, "actionNewGameUserEdit");
-        if (game == "completed") trigger(*w, "actionNewGameCompleted");
+        if (game == "UserEdit" || game == "Completed") trigger(*w, ("actionNewGame" + game).toLatin1());
         eng::Board& board = *w->currentBoard();
-        for (int k : {25, 21, 4, 40})
-            if (game == "edit") board.setValue(k, k == 25 ? 7 : k == 21 ? 4 : k == 4 ? 9 : 2), spoken.clear();
+        for (auto [k, v] : {std::pair{25, 7}, {21, 4}, {4, 9}, {40, 2}})
+            if (game == "UserEdit") board.setValue(k, v), spoken.clear();
         int i = 0, wrong = 0, right = 0;  // a cell that refuses `wrong` with nothing clashing, and its own digit
         for (int k = 80; k >= 0; --k)
             for (int v = 1; v <= 9; ++v)
                 if (!board.cell(k)->value() && v != board.solutionValue(k) && board.cell(k)->isPotential(v) &&
-                    board.clashingCell(k, v) < 0)
-                    i = k, wrong = v, right = board.solutionValue(k);
+                    board.clashingCell(k, v) < 0) i = k, wrong = v, right = board.solutionValue(k);
         for (int k = 0; game == "celebration" && k < 81; ++k)
             if (k != i && !board.cell(k)->value()) board.setValue(k, board.solutionValue(k));
         if (game == "opened") trigger(*w, "actionSaveGame"), trigger(*w, "actionOpenGame");
@@ -83,10 +77,8 @@ private slots:
         });
         if (game == "blink" || game == "celebration") poll.start(5);
 
-        // The keys typed on the cell: digits, w and r, R C B N, '.' Escape, ' ' Space; p u m trigger Pencil Marks,
-        // Retract and Make Move once the game is idle.
-        const int at = cell.isEmpty() ? i : cell.toInt();
-        if (w->caret() != at) w->tileLeftClicked(at);
+        // On the cell: digits, w r, R C B N, '.' Esc, ' ' Space; once idle p u m: Pencil Marks, Retract, Make Move.
+        if (const int at = cell.isEmpty() ? i : cell.toInt(); w->caret() != at) w->tileLeftClicked(at);
         const auto idle = [&] { return QTest::qWaitFor([&] { return !w->isBusy(); }, 20000); };
         for (QChar k : keys.replace('w', QString::number(wrong)).replace('r', QString::number(right))) {
             const int action = QString("pum").indexOf(k);
