@@ -3,10 +3,8 @@
 
 #include "WindowTestSupport.h"
 
-namespace {
-const QRgb kGreen = 0xaaff7f, kBlue = 0x5eaeff, kPink = 0xffaaff, kBlack = 0, kDigitBlue = 0x0000ff,
-           kNearWhite = 0xf3f3f3, kRed = 0xff0000;
-}
+const QRgb kGreen = 0xaaff7f, kBlue = 0x5eaeff, kPink = 0xffaaff, kBlack = 0, kDigitBlue = 0x0000ff, kNearWhite = 0xf3f3f3,
+           kRed = 0xff0000;
 
 class TileTest : public QObject {
     Q_OBJECT
@@ -21,11 +19,7 @@ class TileTest : public QObject {
         tile->updateFromCell(cell, mark);
     }
     QLabel* label(int v) { return tile->findChild<QLabel*>(v ? QString("lbl%1").arg(v) : QString("lblValue")); }
-    int shownCandidates() {
-        int n = 0;
-        for (int v = 1; v <= 9; ++v) n += label(v)->isVisible();
-        return n;
-    }
+    int shownCandidates() { int n = 0; for (int v = 1; v <= 9; ++v) n += label(v)->isVisible(); return n; }
     QRgb back() { return tile->grab().toImage().pixel(3, 3) & 0xffffff; }
     // A label as shown: its background and the colour of its text (the pixel farthest from the background).
     QPair<QRgb, QRgb> look(QLabel* l) {
@@ -126,8 +120,8 @@ private slots:
 
     // A double click offers a lone shown candidate; a digit counts only with the caret on an empty tile.
     void input() {
-        QSignalSpy single(tile, &Tile::singlePotentialDoubleClicked), edited(tile, &Tile::valueEdited);
-        QSignalSpy moved(tile, &Tile::moveCaret);
+        QSignalSpy single(tile, &Tile::singlePotentialDoubleClicked), edited(tile, &Tile::valueEdited),
+            moved(tile, &Tile::moveCaret);
         tile->showPencilMarks(true);
         update(0, 0, {6});
         QTest::mouseDClick(tile, Qt::RightButton);
@@ -136,11 +130,8 @@ private slots:
         QTest::mouseDClick(tile, Qt::LeftButton);
         QCOMPARE(single.count(), 0);
         QTest::keyClick(tile, Qt::Key_5);  // no caret: nothing
-        QTest::keyClick(tile, Qt::Key_Left);
+        QCOMPARE(edited.count(), 0);
         tile->showValueCaret();
-        QTest::keyClick(tile, Qt::Key_0);
-        QTest::keyClick(tile, Qt::Key_A);
-        QCOMPARE(edited.count() + moved.count(), 0);
         QTest::keyClick(tile, Qt::Key_7, Qt::KeypadModifier);
         QCOMPARE(edited.takeFirst(), (QVariantList{37, 7}));
         QTest::keyClick(tile, Qt::Key_3);  // the tile has a value now
