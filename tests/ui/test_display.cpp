@@ -1,7 +1,5 @@
-// The game as the X server (Xvfb with openbox) or a headless weston's screenshots show it, not as the widgets say;
-// texts fitting and sharp icons again at 120, 144 and 192 dpi.
+// The game as Xvfb+openbox or a headless weston shows it; texts fitting and sharp icons also at 120, 144, 192 dpi.
 #include <QtWidgets>
-#include <cstdlib>
 
 #include "AboutDialog.h"
 #include "HighDpi.h"
@@ -10,8 +8,6 @@
 #include "WindowTestSupport.h"
 
 namespace {
-
-const QRgb kPink = 0xffaaff;
 
 // What the X server shows of `area` of a window (all of it by default).
 QImage screenOf(QWidget& w, QRect area = QRect(0, 0, -1, -1)) {
@@ -23,26 +19,24 @@ QImage screenOf(QWidget& w, QRect area = QRect(0, 0, -1, -1)) {
 QPoint locate(const QImage& shot, SudokuWindow& w) {
     const QImage own = w.grab().toImage();
     const int width = own.width(), size = width * own.height();
-    QList<QPoint> points;
-    for (int i = 0; i < 81; i += 4)
-        for (QPoint d : {QPoint(3, 3), QPoint(30, 30), QPoint(20, 40)}) points << w.tileAt(i)->mapTo(&w, d);
     auto same = [&](QPoint at, QPoint p) { return (shot.pixel(at + p) & 0xffffff) == (own.pixel(p) & 0xffffff); };
+    auto fits = [&](QPoint at) {
+        for (int i = 0; i < 81; i += 4)
+            for (QPoint d : {QPoint(3, 3), QPoint(30, 30), QPoint(20, 40)})
+                if (!same(at, w.tileAt(i)->mapTo(&w, d))) return false;
+        int differ = 0;
+        for (int i = 0; i < size; ++i) differ += !same(at, {i % width, i / width});
+        return differ < size / 100;
+    };
     for (int y = 0; y + own.height() <= shot.height(); ++y)
-        for (int x = 0; x + own.width() <= shot.width(); ++x) {
-            const QPoint at(x, y);
-            if (!std::all_of(points.begin(), points.end(), [&](QPoint p) { return same(at, p); })) continue;
-            int differ = 0;
-            for (int i = 0; i < size; ++i) differ += !same(at, {i % width, i / width});
-            if (differ < size / 100) return at;
-        }
+        for (int x = 0; x + own.width() <= shot.width(); ++x)
+            if (fits({x, y})) return {x, y};
     return QPoint(-1, -1);
 }
 
-// Each time the state of `target` changes, the screen is read until it shows the step painted before, the next
-// letter of `expected` ('.': not looked at), or a deadline passes ('?'): each step is painted, then held.
+// At each change of the state, wait for the screen to show the next step of `expected` ('.': unread; '?': never).
 struct StepWatcher : QObject {
-    std::function<QString()> state;
-    std::function<char()> read;
+    std::function<QString()> state; std::function<char()> read;
     QString expected, seen, last;
     StepWatcher(QWidget* target, std::function<QString()> s, std::function<char()> r, QString steps)
         : state(std::move(s)), read(std::move(r)), expected(std::move(steps)), last(state()) {
@@ -51,11 +45,10 @@ struct StepWatcher : QObject {
     bool eventFilter(QObject*, QEvent*) override {
         if (seen.size() == expected.size() || state() == last) return false;
         last = state();
-        const QChar step = expected[seen.size()];
-        QDeadlineTimer deadline(20000);  // the server may not have taken the last frame yet on a busy machine
-        while (step != '.' && read() != step.toLatin1())
-            if (deadline.hasExpired()) return seen += '?', false;
-        seen += step;
+        const char step = expected[seen.size()].toLatin1();
+        QDeadlineTimer deadline(20000);  // a busy server may not have taken the last frame yet
+        while (step != '.' && read() != step && !deadline.hasExpired()) {}
+        seen += step == '.' || read() == step ? step : '?';
         return false;
     }
 };
@@ -68,9 +61,7 @@ QSize textSize(QLabel* label) {
         return label->wordWrap() ? fm.boundingRect(label->contentsRect(), Qt::TextWordWrap, text).size()
                                  : QSize(fm.horizontalAdvance(text), fm.tightBoundingRect(text).height());
     QTextDocument doc;
-    doc.setDefaultFont(label->font());
-    doc.setDocumentMargin(0);
-    doc.setHtml(label->text());
+    doc.setDefaultFont(label->font()), doc.setDocumentMargin(0), doc.setHtml(text);
     if (label->wordWrap()) doc.setTextWidth(label->contentsRect().width());
     return {int(std::ceil(doc.idealWidth())), label->wordWrap() ? int(std::ceil(doc.size().height())) : 0};
 }
@@ -81,28 +72,26 @@ void expectTextsFit(QWidget* top, const QString& name) {
     savePicture(screenOf(*top), QString("scale_%1_%2").arg(top->devicePixelRatioF(), 0, 'f', 2).arg(name));
     QStringList out;
     auto check = [&](QWidget* w, const QString& text, QSize needed, QSize room) {
-        if (needed.width() > room.width() || needed.height() > room.height())
-            out << QString::asprintf("%s: %s (%dx%d > %dx%d)", qPrintable(w->objectName()), qPrintable(text.left(60)),
-                                     needed.width(), needed.height(), room.width(), room.height());
+        if (room.expandedTo(needed) != room)
+            out << QString("%1: %2 (%3 wide)").arg(w->objectName(), text.left(60)).arg(needed.width());
     };
     for (QWidget* w : top->findChildren<QWidget*>()) {
         if (!w->isVisibleTo(top)) continue;
-        if (auto* l = qobject_cast<QLabel*>(w); l && !l->text().isEmpty()) {
+        if (auto* l = qobject_cast<QLabel*>(w); l && !l->text().isEmpty())
             check(l, l->text(), textSize(l), l->contentsRect().size());
-        } else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty() && b->icon().isNull()) {
+        else if (auto* g = qobject_cast<QGroupBox*>(w))
+            check(g, g->title(), {g->fontMetrics().horizontalAdvance(g->title()), 0}, g->contentsRect().size());
+        else if (auto* list = qobject_cast<QListWidget*>(w))
+            check(list, "items", {list->sizeHintForColumn(0), 0}, list->viewport()->size());
+        else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty() && b->icon().isNull()) {
             QStyleOptionButton opt;
-            opt.initFrom(b);
-            opt.text = b->text();
+            opt.initFrom(b), opt.text = b->text();
             const auto room = qobject_cast<QCheckBox*>(b)      ? QStyle::SE_CheckBoxContents
                               : qobject_cast<QRadioButton*>(b) ? QStyle::SE_RadioButtonContents
                                                                : QStyle::SE_PushButtonContents;
             const QString text = QString(b->text()).remove(QRegularExpression("&(?!&)"));
             check(b, text, {b->fontMetrics().horizontalAdvance(text), b->fontMetrics().height()},
                   b->style()->subElementRect(room, &opt, b).size());
-        } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
-            check(g, g->title(), {g->fontMetrics().horizontalAdvance(g->title()), 0}, g->contentsRect().size());
-        } else if (auto* list = qobject_cast<QListWidget*>(w)) {
-            check(list, "items", {list->sizeHintForColumn(0), 0}, list->viewport()->size());
         }
     }
     QVERIFY2(out.isEmpty(), qPrintable(out.join('\n')));
@@ -116,15 +105,13 @@ class DisplayTest : public QObject {
     SudokuWindow* window = nullptr;
     bool wayland = false;
     QTemporaryDir shots;
-    int taken = 0;
     QPoint origin;  // Wayland: where the window's content starts in a screenshot
 
     // A screenshot of the whole Wayland output, into a folder of its own (the tool names its file by the second).
     QImage screenshot() {
-        const QString folder = shots.path() + "/" + QString::number(taken++);
+        const QString folder = shots.filePath(QString::number(QDir(shots.path()).count()));
         QDir().mkpath(folder);
-        if (std::system(("cd '" + folder + "' && weston-screenshooter >/dev/null 2>&1").toLocal8Bit().constData()))
-            return QImage();
+        if (std::system(qPrintable("cd '" + folder + "' && weston-screenshooter >/dev/null 2>&1"))) return QImage();
         return QImage(folder + "/" + QDir(folder).entryList({"*.png"}).value(0));
     }
     // What the display shows of `area` of a widget of the window.
@@ -138,13 +125,12 @@ class DisplayTest : public QObject {
     void checkHighlight(const char* when, int expected = -1) {
         QVERIFY2(expected < 0 || window->highlight() == expected, when);
         QTRY_VERIFY_WITH_TIMEOUT(!window->isBusy(), 10000);
-        auto wrong = [this] {
+        auto wrong = [this, v = window->highlight()] {
             const QImage shot = windowShown();
-            const int v = window->highlight();
             int n = 0;
             for (int i = 0; i < 81; ++i)
                 n += i != window->caret() &&
-                     (background(shot, *window, i) == kPink) != (v && window->tileAt(i)->value() == v);
+                     (background(shot, *window, i) == 0xffaaff) != (v && window->tileAt(i)->value() == v);
             return n;
         };
         QTRY_VERIFY2_WITH_TIMEOUT(wrong() == 0, when, 10000);
@@ -153,8 +139,7 @@ class DisplayTest : public QObject {
 
 private slots:
     void initTestCase() {
-        wayland = QGuiApplication::platformName() == "wayland";
-        QVERIFY(wayland || QGuiApplication::platformName() == "xcb");
+        QVERIFY((wayland = QGuiApplication::platformName() == "wayland") || QGuiApplication::platformName() == "xcb");
         window = shownWindow();
         if (wayland) QTRY_VERIFY_WITH_TIMEOUT((origin = locate(screenshot(), *window)) != QPoint(-1, -1), 20000);
     }
@@ -163,16 +148,15 @@ private slots:
     // The very first game's givens are grey on screen.
     void greyGivensAtStartUp() {
         QTRY_COMPARE_WITH_TIMEOUT(background(windowShown(), *window, firstFilled(*window)), kGiven, 10000);
-        const QImage shot = windowShown();
-        savePicture(shot, QGuiApplication::platformName() + "_start");
-        QCOMPARE(background(shot, *window, firstEmpty(*window)), kWhite);
+        QCOMPARE(background(windowShown(), *window, firstEmpty(*window)), kWhite);
+        savePicture(windowShown(), QGuiApplication::platformName() + "_start");
     }
 
-    // The first frame's tile pictures (shown as the program shows them) and the forms built after look the same.
+    // The first frame's tile pictures (as shown on screen, which at 192 dpi cuts the board's bottom) and the forms
+    // built after look the same; scaled, where a picture would not be copied pixel for pixel, the forms come at once.
     void firstFrameMatchesBuiltTiles() {
         SudokuWindow fresh;
         const qreal ratio = fresh.devicePixelRatioF();
-        // Where a picture would not be copied pixel for pixel the forms are there at once; unscaled, never.
         QVERIFY(ratio != 1 || !fresh.tileAt(0)->hasForm());
         if (fresh.tileAt(0)->hasForm()) return;
         auto* board = child<QWidget>(fresh, "boardWidget");
@@ -181,35 +165,23 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&fresh, 30000));
         QTRY_VERIFY_WITH_TIMEOUT(fresh.tileAt(0)->hasForm() && fresh.tileAt(80)->hasForm(), 10000);
         QCOMPARE(board->grab().toImage().convertToFormat(QImage::Format_RGB32), first);
-        // The part of the board on the screen: at 192 dpi the window reaches past its bottom.
         const QPoint at = board->mapToGlobal(QPoint(0, 0));
         const QRect area = (QRect(at, board->size()) & fresh.screen()->geometry()).translated(-at);
         QTRY_COMPARE_WITH_TIMEOUT(screenOf(fresh, QRect(board->mapTo(&fresh, area.topLeft()), area.size())),
                                   first.copy(QRect(area.topLeft() * ratio, area.size() * ratio)), 10000);
     }
 
-    // A refused value blinks visible, hidden, visible, hidden on screen; on X11 all keys of a burst meanwhile count.
+    // A refused value blinks visible, hidden, visible, hidden on screen.
     void refusedValueBlinks() {
-        eng::Board* board = window->currentBoard();
-        const int a = firstEmpty(*window), b = firstEmpty(*window, a), c = firstEmpty(*window, b);
+        const int a = firstEmpty(*window);
         click(a);
         QTRY_VERIFY_WITH_TIMEOUT(window->caret() == a, 10000);
-        auto digit = [board](int i) { return QString::number(board->solutionValue(i)); };
-        if (!wayland) {
-            window->activateWindow();
-            QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeWindow() == window, 10000);
-            const QStringList keys{"key", "--delay", "40", digit(a), "Right", digit(b), "Right", digit(c)};
-            QTimer::singleShot(0, window, [keys] { QProcess::startDetached("xdotool", keys); });
-        }
         auto* label = child<QLabel>(*window->tileAt(a), "lblValue");
-        QVERIFY(label->isHidden());  // shown with the digit typed, before the blink paints it
         StepWatcher watcher(label, [label] { return QString(label->isHidden() ? "h" : "v"); },
                             [&] { return digitShown(shown(window->tileAt(a), QRect(8, 8, 44, 44))); }, ".VhVh");
-        QTest::keyClick(window->tileAt(a), Qt::Key_0 + board->solutionValue(a) % 9 + 1);
+        QTest::keyClick(window->tileAt(a), Qt::Key_0 + window->currentBoard()->solutionValue(a) % 9 + 1);
         QCOMPARE(watcher.seen, QString(".VhVh"));
-        if (!wayland) QTRY_COMPARE_WITH_TIMEOUT(board->cell(c)->value(), board->solutionValue(c), 15000);
-        for (int i : {a, b}) QCOMPARE(board->cell(i)->value(), wayland ? 0 : board->solutionValue(i));
-        savePicture(windowShown(), "display_after_burst");
+        QVERIFY(!window->tileAt(a)->hasValue());
     }
 
     // A refused candidate flashes red, black, red, black on screen.
@@ -240,22 +212,13 @@ private slots:
         click(given);
         checkHighlight("a second click ends it", 0);
         click(given);
-        const std::vector<int> before = shownValues(*window);
         MessageBoxAnswerer answerer;
         trigger(*window, "actionNewGameEasy");
         checkHighlight("new game");
-        for (int i = 0; i < 81; ++i)  // a tile that held the value and is empty now, then another empty one
-            if (before[i] == v && !window->tileAt(i)->hasValue()) {
-                click(i);
-                click(firstEmpty(*window, i) >= 0 ? firstEmpty(*window, i) : firstEmpty(*window));
-                checkHighlight("click after new game");
-                break;
-            }
         if (window->highlight() != window->tileAt(firstFilled(*window))->value()) click(firstFilled(*window));
         QVERIFY(window->highlight() != 0);
         for (int i = 0; i < 4; ++i) window->makeMove();
         checkHighlight("make move");
-        savePicture(windowShown(), "display_highlight");
         for (int i = 0; i < 4; ++i) window->retractMove();
         checkHighlight("retract");
         const int empty = firstEmpty(*window), right = window->currentBoard()->solutionValue(empty);
@@ -264,22 +227,15 @@ private slots:
     }
 
     // In every language nothing of the window at every level, its menus, toolbar, status bar and dialogs is cut.
-    void textsFit_data() {
-        addLanguageRows();
-        QTest::newRow("en") << "en";
-    }
+    void textsFit_data() { addLanguageRows(), QTest::newRow("en") << "en"; }
     void textsFit() {
         QFETCH(QString, language);
         const Translations translations{QLocale(language)};
-        QCOMPARE(translations.language(), language == "en" ? QString() : language);
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel") != "Cancel", language != "en");  // Qt's too
         std::unique_ptr<SudokuWindow> w(shownWindow());
         MessageBoxAnswerer answerer;
-        for (QAction* level : child<QMenu>(*w, "menu_New_Game")->actions()) {
-            if (level->isSeparator()) continue;
-            level->trigger();
-            expectTextsFit(w.get(), language + "_" + level->objectName());
-        }
+        for (QAction* level : child<QMenu>(*w, "menu_New_Game")->actions())
+            if (!level->isSeparator()) level->trigger(), expectTextsFit(w.get(), language + "_" + level->objectName());
         auto* bar = child<QMenuBar>(*w, "menuBar");
         for (QAction* menu : bar->actions()) QVERIFY(bar->rect().contains(bar->actionGeometry(menu)));
         for (QMenu* menu : w->findChildren<QMenu*>()) {
@@ -292,9 +248,10 @@ private slots:
         auto* tools = child<QToolBar>(*w, "mainToolBar");
         for (QAction* a : tools->actions())
             QVERIFY2(a->isSeparator() || tools->widgetForAction(a)->isVisible(), qPrintable(a->objectName()));
+        const QStatusBar* status = w->statusBar();
         for (QAction* a : w->findChildren<QAction*>())
-            QVERIFY2(w->statusBar()->fontMetrics().horizontalAdvance(a->statusTip()) <
-                         w->statusBar()->contentsRect().width(), qPrintable(a->statusTip()));
+            QVERIFY2(status->fontMetrics().horizontalAdvance(a->statusTip()) < status->contentsRect().width(),
+                     qPrintable(a->statusTip()));
         AboutDialog about("1.0.4", w.get());
         for (QDialog* d : std::initializer_list<QDialog*>{&w->printingOptions(), &w->pencilMarksDialog(), &about}) {
             d->show();
@@ -308,8 +265,8 @@ private slots:
         const qreal ratio = window->devicePixelRatioF();
         for (QAction* action : window->findChild<QToolBar*>()->actions()) {
             const QList<QSize> sizes = action->icon().availableSizes();
-            const bool sharp = sizes.contains(QSize(48, 48)) && (ratio <= 1 || sizes.contains(QSize(96, 96)));
-            QVERIFY2(action->isSeparator() || sharp, qPrintable(action->objectName()));
+            QVERIFY2(action->isSeparator() || (sizes.contains({48, 48}) && (ratio <= 1 || sizes.contains({96, 96}))),
+                     qPrintable(action->objectName()));
         }
         AboutDialog about("1.0.4", window);
         auto* picture = child<QLabel>(about, "label");
@@ -322,14 +279,12 @@ private slots:
         window->showMaximized();
         if (wayland) {
             QCOMPARE(window->windowHandle()->minimumSize(), window->windowHandle()->maximumSize());
-            QImage shot;
-            QTRY_VERIFY_WITH_TIMEOUT(locate(shot = screenshot(), *window) != QPoint(-1, -1), 20000);
-            savePicture(shot, "wayland_maximise_asked");
+            QTRY_VERIFY_WITH_TIMEOUT(locate(screenshot(), *window) != QPoint(-1, -1), 20000);
         } else {  // a move that the manager carries out shows it has handled the resizing asked before it
+            const QPoint before = window->pos();
             const QString id = QString::number(window->winId());
-            const QPoint before = window->pos(), to = before + QPoint(17, 11);
-            QProcess::execute("xdotool", {"windowsize", id, "900", "900", "windowmove", id, QString::number(to.x()),
-                                          QString::number(to.y())});
+            QProcess::execute("xdotool", {"windowsize", id, "900", "900", "windowmove", id,
+                                          QString::number(before.x() + 17), QString::number(before.y() + 11)});
             QTRY_VERIFY_WITH_TIMEOUT(window->pos() != before, 10000);
             QCOMPARE(screenOf(*window).size(), size);  // the size the X server has
         }
