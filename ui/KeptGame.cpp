@@ -197,6 +197,7 @@ void KeptGame::keepNow() {
     game.chosenRules = window->selectedRules();
     submit(std::move(game));
     sinceWrite.start();
+    emit handedOver();
 }
 
 // Only the newest state waits: one not yet written is replaced.

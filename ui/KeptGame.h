@@ -69,6 +69,8 @@ public:
     void waitForWrites();
 
 signals:
+    // A state of the game was handed to the writer: a second at least after the last one, unless on closing.
+    void handedOver();
     // After each write, on the thread this object lives in.
     void written(bool ok);
 
