@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <algorithm>
@@ -14,6 +13,7 @@
 #include <sstream>
 
 #include "SudokuWindow.h"
+#include "WholeFile.h"
 
 namespace {
 
@@ -57,9 +57,7 @@ bool setAside(const QString& path) {
 // Written beside the kept file, which takes its name only once every byte is
 // on disk: two programs writing at once each replace it whole.
 bool writeFile(const QString& path, const QByteArray& bytes) {
-    if (!QDir().mkpath(QFileInfo(path).absolutePath())) return false;
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    return QDir().mkpath(QFileInfo(path).absolutePath()) && writeWholeFile(path, bytes.constData(), bytes.size());
 }
 
 }  // namespace

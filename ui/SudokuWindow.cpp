@@ -8,7 +8,6 @@
 #include <QLayout>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QSaveFile>
 #include <QSoundEffect>
 #include <QThread>
 #include <QTimer>
@@ -21,6 +20,7 @@
 #include "HintController.h"
 #include "PuzzleClipboard.h"
 #include "TileAccessible.h"
+#include "WholeFile.h"
 #include "ui_SudokuWindow.h"
 
 namespace {
@@ -766,15 +766,10 @@ void SudokuWindow::saveGame() {
     const QString name = askFileName(FileRequest::Save);
     if (name.isEmpty()) return;
     const QFileInfo target(name);
-    QSaveFile file(name);
     std::ostringstream out(std::ios::binary);
-    if ((!target.exists() || target.isFile()) && file.open(QIODevice::WriteOnly) && board->serialize(out)) {
+    if ((!target.exists() || target.isFile()) && board->serialize(out)) {
         const std::string bytes = out.str();
-        // The flush is checked on its own: commit() does not see a write error
-        // that shows up only while the buffered bytes are flushed.
-        if (file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) &&
-            file.flush() && file.commit())
-            return;
+        if (writeWholeFile(name, bytes.data(), static_cast<qint64>(bytes.size()))) return;
     }
     showMessage(QMessageBox::Information, tr("Failed to save game"));
 }
