@@ -152,15 +152,10 @@ QString HintController::describe(const Hint& hint) {
     return tr("The board contradicts itself: %1 has no candidate left.").arg(cellName(hint.cell));
 }
 
-bool HintController::pencilMarksShown() const {
-    const QAction* marks = window->findChild<QAction*>(QStringLiteral("actionViewPencilMarks"));
-    return marks && marks->isChecked();
-}
-
 // Whether pencil marks show, the board's history and every cell.
 std::vector<int> HintController::state() const {
     const eng::Board* board = window->currentBoard();
-    std::vector<int> out{pencilMarksShown(), board != nullptr};
+    std::vector<int> out{window->pencilMarksShown(), board != nullptr};
     if (!board) return out;
     out.push_back(static_cast<int>(board->historySize()));
     out.push_back(static_cast<int>(board->undoneSize()));
@@ -175,7 +170,7 @@ void HintController::hint() {
     clear();
     const eng::Board* board = window->currentBoard();
     if (!board || board->getPhase() != eng::phasePlaying) return tell(tr("The board is empty: enter a puzzle first, or use Make Move."));
-    const bool placeValue = !pencilMarksShown();
+    const bool placeValue = !window->pencilMarksShown();
     Hint found = eng::findHint(eng::positionOf(*board), placeValue);
     // Never a wrong digit: a placement must be the stored solution's.
     const int solution = found.outcome == Hint::found && found.step.places() ? board->solutionValue(found.step.cell) : 0;

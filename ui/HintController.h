@@ -53,7 +53,6 @@ private:
     std::vector<int> shownState;
 
     std::vector<int> state() const;
-    bool pencilMarksShown() const;
     void show(const eng::Hint& hint);
     void tell(const QString& text);
     void carryOutShown();
