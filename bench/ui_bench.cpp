@@ -28,6 +28,7 @@
 #include "KeptGame.h"
 #include "MemoryWarmUp.h"
 #include "StartUpWarmUp.h"
+#include "ToolBarArrowStyle.h"
 #include "SudokuWindow.h"
 #include "Translations.h"
 
@@ -290,9 +291,11 @@ public:
 int startUpChild(int argc, char** argv) {
     QElapsedTimer t;
     t.start();
-    const StartUpWarmUp warmUp;
+    StartUpWarmUp warmUp;
     prepareApplication();
     QApplication app(argc, argv);
+    ToolBarArrowStyle::install();
+    warmUp.applicationReady();
     const double appMs = msSince(t);
     const Translations translations;
     const double translationsMs = msSince(t);

@@ -23,12 +23,13 @@ const ActionPicture kPictures[] = {
     {"actionRetractMove", "retract_move"},       {"actionAbout", "about"},
 };
 
-// Read as QIcon reads a file: the first read also loads the image-format
-// plugins, which the window's own first picture (the style's tool bar
-// extension arrow) would otherwise wait for.
+// Read as PNG, without asking the image-format plugins whether they know
+// the file better: that would load every one of them.
 QImage readPicture(const QString& name) {
     // A name ending in @2x gives the picture a device pixel ratio of 2.
-    return QImageReader(QStringLiteral(":/Sudoku/Resources/") + name).read();
+    QImageReader reader(QStringLiteral(":/Sudoku/Resources/") + name, "png");
+    reader.setAutoDetectImageFormat(false);
+    return reader.read();
 }
 
 }  // namespace

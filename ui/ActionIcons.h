@@ -7,10 +7,8 @@
 class QWidget;
 
 // The pictures of the window's actions, read on a second thread while the
-// window is built. Qt's first picture read loads every image-format plugin
-// (gif, ico, jpeg, and svg with its library) to ask each whether it reads PNG,
-// about 1.3 ms measured on a bare window, before the twelve are decoded.
-// Create it once the application object exists; apply() waits for the pictures.
+// window is built. Create it once the application object exists; apply()
+// waits for the pictures.
 class ActionIcons {
 public:
     ActionIcons();

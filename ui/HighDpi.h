@@ -25,8 +25,14 @@ inline void enableHighDpiScaling() {
 // before the application object is created.
 inline void useRasterWindowsOnly() { QApplication::setAttribute(Qt::AA_ForceRasterWidgets); }
 
+// The menus stay in the window, which is made exactly as large as its board
+// and menu. Asking whether the desktop shows menus of its own is a session-bus
+// call on the way to the first frame.
+inline void keepMenusInWindow() { QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar); }
+
 // Everything the program sets before its application object exists.
 inline void prepareApplication() {
     enableHighDpiScaling();
     useRasterWindowsOnly();
+    keepMenusInWindow();
 }

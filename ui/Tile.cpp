@@ -94,9 +94,11 @@ bool picturesExact(qreal ratio) {
 // What updateFromCell was given while the tile had no form yet.
 class RecordedCell final : public eng::CellInfo {
 public:
-    explicit RecordedCell(const eng::CellInfo& cell) {
+    explicit RecordedCell(const eng::CellInfo& cell) : RecordedCell(cell, cell.value()) {}
+    // The cell as it would be holding `value`.
+    RecordedCell(const eng::CellInfo& cell, int value) {
         index_ = cell.index();
-        value_ = cell.value();
+        value_ = value;
         origin_ = cell.origin();
         for (int v = 1; v <= 9; ++v)
             if (cell.isPotential(v)) mask |= 1u << v;
@@ -147,7 +149,10 @@ void Tile::buildForm() {
     if (const std::unique_ptr<eng::CellInfo> cell = std::move(recorded)) updateFromCell(*cell, false);
 }
 
-// Where a picture would not be exact the tiles build their forms now.
+// Where a picture would not be exact the tiles build their forms now. Each
+// background is drawn once as an empty tile; a digit's look is that picture
+// with the value label drawn over it, which is what the tile's own paint puts
+// there: the label is the topmost child and paints no background of its own.
 void Tile::drawPreviews(Tile* const* tiles, int count) {
     std::unique_ptr<Tile> model;
     QHash<int, QPixmap> looks;
@@ -162,7 +167,8 @@ void Tile::drawPreviews(Tile* const* tiles, int count) {
         }
         const eng::CellInfo& cell = *tile->recorded;
         if ((cell.origin() == eng::originGiven) != givens) continue;
-        const int look = cell.value() | (cell.origin() == eng::originGiven ? 16 : 0);
+        const int background = givens ? 16 : 0;
+        const int look = cell.value() | background;
         auto found = looks.constFind(look);
         if (found == looks.constEnd()) {
             if (!model) {
@@ -172,10 +178,21 @@ void Tile::drawPreviews(Tile* const* tiles, int count) {
                 model->hide();
                 model->resize(tile->size());
             }
-            model->updateFromCell(cell, false);
-            // The sheet a shown tile gives its digit.
-            if (cell.value()) setSheet(model->valueLabel, styleValueNormal);
-            found = looks.insert(look, model->grab());
+            auto empty = looks.constFind(background);
+            if (empty == looks.constEnd()) {
+                model->updateFromCell(RecordedCell(cell, 0), false);
+                empty = looks.insert(background, model->grab());
+            }
+            QPixmap picture = *empty;
+            if (cell.value()) {
+                model->updateFromCell(cell, false);
+                // The sheet a shown tile gives its digit.
+                setSheet(model->valueLabel, styleValueNormal);
+                QPainter painter(&picture);
+                model->valueLabel->render(&painter, model->valueLabel->mapTo(model.get(), QPoint()), QRegion(),
+                                          QWidget::DrawChildren);
+            }
+            found = looks.insert(look, picture);
         }
         tile->preview = *found;
     }

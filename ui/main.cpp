@@ -4,12 +4,15 @@
 #include "MemoryWarmUp.h"
 #include "StartUpWarmUp.h"
 #include "SudokuWindow.h"
+#include "ToolBarArrowStyle.h"
 #include "Translations.h"
 
 int main(int argc, char** argv) {
-    const StartUpWarmUp warmUp;
+    StartUpWarmUp warmUp;
     prepareApplication();
     QApplication app(argc, argv);
+    ToolBarArrowStyle::install();
+    warmUp.applicationReady();
     const Translations translations;
     // Lets the desktop match the window to the installed entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));
