@@ -291,11 +291,10 @@ public:
 int startUpChild(int argc, char** argv) {
     QElapsedTimer t;
     t.start();
-    StartUpWarmUp warmUp;
+    const StartUpWarmUp warmUp;
     prepareApplication();
     QApplication app(argc, argv);
     ToolBarArrowStyle::install();
-    warmUp.applicationReady();
     const double appMs = msSince(t);
     const Translations translations;
     const double translationsMs = msSince(t);

@@ -1,8 +1,5 @@
 #include "StartUpWarmUp.h"
 
-#include <QFontMetrics>
-#include <QGuiApplication>
-
 #include <fontconfig/fontconfig.h>
 
 #include "MemoryWarmUp.h"
@@ -14,23 +11,12 @@ constexpr std::size_t kStartUpHeap = 2 * 1024 * 1024;
 
 }  // namespace
 
-// The toolkit asks fontconfig for the same configuration and finds it loaded;
-// measuring a text in the application font fills the database shared by all
-// threads.
+// The toolkit asks fontconfig for the same configuration and finds it loaded.
 StartUpWarmUp::StartUpWarmUp() {
     mapHeapAhead(kStartUpHeap);
-    fontLoader = std::thread([font = applicationFont.get_future()]() mutable {
-        FcInit();
-        if (const std::optional<QFont> applicationFont = font.get()) QFontMetrics(*applicationFont).height();
-    });
-}
-
-void StartUpWarmUp::applicationReady() {
-    if (std::exchange(told, true)) return;
-    applicationFont.set_value(QGuiApplication::font());
+    fontLoader = std::thread([] { FcInit(); });
 }
 
 StartUpWarmUp::~StartUpWarmUp() {
-    if (!std::exchange(told, true)) applicationFont.set_value(std::nullopt);
-    fontLoader.join();
+    if (fontLoader.joinable()) fontLoader.join();
 }

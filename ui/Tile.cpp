@@ -150,9 +150,9 @@ void Tile::buildForm() {
 }
 
 // Where a picture would not be exact the tiles build their forms now. Each
-// background is drawn once as an empty tile; a digit's look is that picture
-// with the value label drawn over it, which is what the tile's own paint puts
-// there: the label is the topmost child and paints no background of its own.
+// background is drawn once, as an empty tile; a digit's look is that picture
+// with the digit drawn over it as the value label draws its text (the label is
+// the topmost child and paints no background of its own).
 void Tile::drawPreviews(Tile* const* tiles, int count) {
     std::unique_ptr<Tile> model;
     QHash<int, QPixmap> looks;
@@ -168,8 +168,7 @@ void Tile::drawPreviews(Tile* const* tiles, int count) {
         const eng::CellInfo& cell = *tile->recorded;
         if ((cell.origin() == eng::originGiven) != givens) continue;
         const int background = givens ? 16 : 0;
-        const int look = cell.value() | background;
-        auto found = looks.constFind(look);
+        auto found = looks.constFind(cell.value() | background);
         if (found == looks.constEnd()) {
             if (!model) {
                 // Beside the tiles, so the same style sheets reach it; never shown.
@@ -186,13 +185,16 @@ void Tile::drawPreviews(Tile* const* tiles, int count) {
             QPixmap picture = *empty;
             if (cell.value()) {
                 model->updateFromCell(cell, false);
-                // The sheet a shown tile gives its digit.
-                setSheet(model->valueLabel, styleValueNormal);
+                setSheet(model->valueLabel, styleValueNormal);  // the sheet a shown tile gives its digit
+                const QLabel& label = *model->valueLabel;
+                label.ensurePolished();
                 QPainter painter(&picture);
-                model->valueLabel->render(&painter, model->valueLabel->mapTo(model.get(), QPoint()), QRegion(),
-                                          QWidget::DrawChildren);
+                painter.setFont(label.font());
+                painter.setPen(label.palette().color(label.foregroundRole()));
+                painter.drawText(label.contentsRect().translated(label.mapTo(model.get(), QPoint())),
+                                 label.alignment() | Qt::TextForceLeftToRight, label.text());
             }
-            found = looks.insert(look, picture);
+            found = looks.insert(cell.value() | background, picture);
         }
         tile->preview = *found;
     }

@@ -8,11 +8,10 @@
 #include "Translations.h"
 
 int main(int argc, char** argv) {
-    StartUpWarmUp warmUp;
+    const StartUpWarmUp warmUp;
     prepareApplication();
     QApplication app(argc, argv);
     ToolBarArrowStyle::install();
-    warmUp.applicationReady();
     const Translations translations;
     // Lets the desktop match the window to the installed entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));
