@@ -4,6 +4,7 @@
 #include "AboutDialog.h"
 #include "HighDpi.h"
 #include "MemoryWarmUp.h"
+#include "ToolBarArrowStyle.h"
 #include "Translations.h"
 #include "WindowTestSupport.h"
 
@@ -144,6 +145,19 @@ private slots:
         if (wayland) QTRY_VERIFY_WITH_TIMEOUT((origin = locate(screenshot(), *window)) != QPoint(-1, -1), 20000);
     }
     void cleanupTestCase() { delete window; }
+
+    // On the way to the first frame no picture was read through the image-format plugins: none is loaded. The tool
+    // bar's arrow for buttons that do not fit, read only once drawn, is still the style's own.
+    void noImagePluginForTheFirstFrame() {
+        QFile maps("/proc/self/maps");
+        QVERIFY(maps.open(QIODevice::ReadOnly));
+        QVERIFY(!maps.readAll().contains("/imageformats/"));
+        const auto* style = qobject_cast<const QProxyStyle*>(QApplication::style());
+        QVERIFY(style);
+        for (const auto arrow : {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_ToolBarVerticalExtensionButton})
+            QCOMPARE(style->standardIcon(arrow).pixmap(16, 16).toImage(),
+                     style->baseStyle()->standardIcon(arrow).pixmap(16, 16).toImage());
+    }
 
     // The very first game's givens are grey on screen.
     void greyGivensAtStartUp() {
@@ -296,6 +310,7 @@ private slots:
 int main(int argc, char** argv) {
     prepareApplication();
     QApplication app(argc, argv);
+    ToolBarArrowStyle::install();
     DisplayTest test;
     return QTest::qExec(&test, argc, argv);
 }
