@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QIconEngine>
+#include <QPointer>
 
 namespace {
 
-// Stands for the base style's icon, which it asks for when first drawn or measured.
+// Stands for the base style's icon, which it asks for when first drawn or
+// measured; with that style gone (the application's style replaced) it is empty.
 class DeferredIcon final : public QIconEngine {
 public:
     DeferredIcon(const QStyle* style, QStyle::StandardPixmap which) : style(style), which(which) {}
@@ -22,10 +24,10 @@ public:
 
 private:
     QIcon& icon() {
-        if (real.isNull()) real = style->standardIcon(which);
+        if (real.isNull() && style) real = style->standardIcon(which);
         return real;
     }
-    const QStyle* style;
+    QPointer<const QStyle> style;
     QStyle::StandardPixmap which;
     QIcon real;
 };
