@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "CloseOnSignals.h"
 #include "HighDpi.h"
 #include "MemoryWarmUp.h"
 #include "StartUpWarmUp.h"
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("org.sudoku_vantu.SudokuVantu"));
     KeptGame keptGame;  // outlives the window, which hands it the game on closing
     SudokuWindow window(nullptr, &keptGame);
+    const CloseOnSignals closing(&window);
     showAtStartUp(window);
     return app.exec();
 }

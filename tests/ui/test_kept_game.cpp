@@ -1,4 +1,5 @@
-// The game in progress outlives the program: killed and restarted, a damaged file, a finished game, a read-only folder.
+// The game in progress outlives the program: killed or ended and restarted, a damaged file, a finished game, a
+// read-only folder.
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -59,6 +60,19 @@ private slots:
             QVERIFY(back.game.pencilMarksShown && back.game.level == extras.level &&
                     back.game.chosenRules == extras.chosenRules && back.game.boardRules == extras.boardRules);
         }
+    }
+
+    // Asked to end (SIGTERM, as a session ending does), the program closes as its window's close does: the game is kept.
+    void endedGameIsKept() {
+        QFile::remove(path);
+        qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+        QProcess game;
+        game.start(SUDOKU_GAME, QStringList());
+        QTRY_COMPARE_WITH_TIMEOUT(QProcess::execute("xdotool", {"search", "--sync", "--name", "^Sudoku Vantu$"}), 0, 20000);
+        QVERIFY(!QFile::exists(path));
+        game.terminate();
+        QVERIFY(game.waitForFinished(20000) && game.exitStatus() == QProcess::NormalExit && game.exitCode() == 0);
+        QCOMPARE(Kept(path).game.level, int(eng::lvlMedium));
     }
 
     void damagedOrFinishedGame_data() {
