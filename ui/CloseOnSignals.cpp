@@ -5,12 +5,14 @@
 
 #include <cerrno>
 #include <csignal>
+#include <iterator>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr int kSignals[] = {SIGTERM, SIGHUP, SIGINT};
+struct sigaction before[std::size(kSignals)];
 int signalPipe[2] = {-1, -1};
 
 void onSignal(int) {
@@ -35,11 +37,14 @@ CloseOnSignals::CloseOnSignals(QWidget* window) : window(window) {
     action.sa_handler = onSignal;
     sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
-    for (const int signal : kSignals) sigaction(signal, &action, nullptr);
+    // A signal ignored when the program started (SIGHUP under nohup) stays ignored.
+    for (size_t i = 0; i < std::size(kSignals); ++i)
+        if (sigaction(kSignals[i], nullptr, &before[i]) == 0 && before[i].sa_handler != SIG_IGN)
+            sigaction(kSignals[i], &action, nullptr);
 }
 
-// The signals end the program again as they would without it.
+// The signals act again as they did before.
 CloseOnSignals::~CloseOnSignals() {
     if (!notifier) return;
-    for (const int signal : kSignals) std::signal(signal, SIG_DFL);
+    for (size_t i = 0; i < std::size(kSignals); ++i) sigaction(kSignals[i], &before[i], nullptr);
 }
