@@ -23,6 +23,7 @@
 #include <ctime>
 #include <vector>
 
+#include "CloseOnSignals.h"
 #include "HighDpi.h"
 #include "HintController.h"
 #include "KeptGame.h"
@@ -300,6 +301,7 @@ int startUpChild(int argc, char** argv) {
     const double translationsMs = msSince(t);
     KeptGame keptGame;
     SudokuWindow w(nullptr, &keptGame);
+    const CloseOnSignals closing(&w);
     const double windowMs = msSince(t);
     PaintWatch watch;
     w.tileAt(80)->installEventFilter(&watch);
