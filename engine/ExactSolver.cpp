@@ -5,36 +5,34 @@
 
 #include <cstdint>
 
+#include "RuleSolver.h"
+
 namespace eng {
+
+using eng_priv::bitOf;
+using eng_priv::countOf;
+using eng_priv::kAllValues;
+using eng_priv::kTuples;
+using eng_priv::lowestOf;
+using eng_priv::Mask;
 
 namespace {
 
-using Mask = std::uint16_t;
-constexpr Mask kAll = 0x1FF;
-
-struct Units {
-    int cells[27][9];  // rows, columns, squares
-    int of[81][3];
-    int peers[81][20];
-    Units() {
-        for (int i = 0; i < 81; ++i) {
-            const int r = i / 9, c = i % 9, s = (r / 3) * 3 + c / 3;
-            cells[r][c] = i;
-            cells[9 + c][r] = i;
-            cells[18 + s][(r % 3) * 3 + c % 3] = i;
-            of[i][0] = r, of[i][1] = 9 + c, of[i][2] = 18 + s;
-        }
+// The 20 cells that share a row, column or square with each cell.
+struct Peers {
+    int of[81][20];
+    Peers() {
         for (int i = 0; i < 81; ++i) {
             int n = 0;
             for (int p = 0; p < 81; ++p) {
-                if (p == i) continue;
-                const bool peer = p / 9 == i / 9 || p % 9 == i % 9 || of[p][2] == of[i][2];
-                if (peer) peers[i][n++] = p;
+                const bool peer = kTuples.of[p][0] == kTuples.of[i][0] || kTuples.of[p][1] == kTuples.of[i][1] ||
+                                  kTuples.of[p][2] == kTuples.of[i][2];
+                if (p != i && peer) of[i][n++] = p;
             }
         }
     }
 };
-const Units kUnits;
+const Peers kPeers;  // kTuples is constant-initialized: ready before this
 
 struct State {
     Mask candidates[81];  // of an empty cell; 0 once it has a value
@@ -43,18 +41,16 @@ struct State {
     int empty;
 };
 
-int countOf(Mask m) { return __builtin_popcount(m); }
-
 bool assign(State& s, int cell, int v) {
-    const Mask bit = Mask(1u << (v - 1));
+    const Mask bit = bitOf(v);
     if (!(s.candidates[cell] & bit)) return false;
     s.value[cell] = std::uint8_t(v);
     s.candidates[cell] = 0;
     --s.empty;
-    for (int u : kUnits.of[cell]) s.placed[u] |= bit;
-    for (int p : kUnits.peers[cell]) {
+    for (int u : kTuples.of[cell]) s.placed[u] |= bit;
+    for (int p : kPeers.of[cell]) {
         if (s.value[p] || !(s.candidates[p] & bit)) continue;
-        s.candidates[p] &= Mask(~bit);
+        s.candidates[p] &= ~bit;
         if (!s.candidates[p]) return false;
     }
     return true;
@@ -67,22 +63,22 @@ bool propagate(State& s) {
         for (int i = 0; i < 81; ++i) {
             const Mask m = s.candidates[i];
             if (s.value[i] || countOf(m) != 1) continue;
-            if (!assign(s, i, __builtin_ctz(m) + 1)) return false;
+            if (!assign(s, i, lowestOf(m))) return false;
             progress = true;
         }
         for (int u = 0; u < 27; ++u) {
             Mask once = 0, twice = 0;
-            for (int i : kUnits.cells[u]) {
+            for (int i : kTuples.cells[u]) {
                 twice |= once & s.candidates[i];
                 once |= s.candidates[i];
             }
-            const Mask open = Mask(kAll & ~s.placed[u]);
+            const Mask open = kAllValues & ~s.placed[u];
             if ((once & open) != open) return false;  // a value with no place left
-            for (Mask hidden = Mask(open & ~twice); hidden; hidden &= Mask(hidden - 1)) {
-                const Mask bit = Mask(hidden & -hidden);
-                for (int i : kUnits.cells[u]) {
+            for (Mask hidden = open & ~twice; hidden; hidden &= hidden - 1) {
+                const Mask bit = hidden & -hidden;
+                for (int i : kTuples.cells[u]) {
                     if (!(s.candidates[i] & bit)) continue;
-                    if (!assign(s, i, __builtin_ctz(bit) + 1)) return false;
+                    if (!assign(s, i, lowestOf(bit))) return false;
                     progress = true;
                     break;
                 }
@@ -109,9 +105,9 @@ struct Search {
             const int n = s.value[i] ? 10 : countOf(s.candidates[i]);
             if (n < bestCount) best = i, bestCount = n;
         }
-        for (Mask m = s.candidates[best]; m && found < limit; m &= Mask(m - 1)) {
+        for (Mask m = s.candidates[best]; m && found < limit; m &= m - 1) {
             State next = s;
-            if (assign(next, best, __builtin_ctz(m) + 1)) run(next);
+            if (assign(next, best, lowestOf(m))) run(next);
         }
     }
 };
@@ -121,11 +117,11 @@ struct Search {
 bool ExactSolver::givensConflict(const Grid& givens) {
     for (int v : givens)
         if (v < 0 || v > 9) return true;
-    for (const auto& unit : kUnits.cells) {
+    for (const auto& unit : kTuples.cells) {
         Mask seen = 0;
         for (int i : unit) {
             if (!givens[i]) continue;
-            const Mask bit = Mask(1u << (givens[i] - 1));
+            const Mask bit = bitOf(givens[i]);
             if (seen & bit) return true;
             seen |= bit;
         }
@@ -136,7 +132,7 @@ bool ExactSolver::givensConflict(const Grid& givens) {
 int ExactSolver::countSolutions(const Grid& givens, Grid* solution, int limit) {
     if (limit < 1 || givensConflict(givens)) return 0;
     State s{};
-    for (Mask& m : s.candidates) m = kAll;
+    for (Mask& m : s.candidates) m = kAllValues;
     s.empty = 81;
     for (int i = 0; i < 81; ++i)
         if (givens[i] && !assign(s, i, givens[i])) return 0;
