@@ -50,17 +50,9 @@ int Board::solutionValue(int index) const {
 int Board::clashingCell(int index, int value) const {
     if (history.empty() || !validIndex(index) || value < 1 || value > 9) return -1;
     const BoardSnapshot& s = *history.back();
-    const int row = index / 9, column = index % 9, square = row / 3 * 3 + column / 3;
-    int found[3] = {-1, -1, -1};  // in the row, the column, the square
-    for (int i = 0; i < 81; ++i) {
-        if (i == index || s.cells[i].value() != value) continue;
-        const int r = i / 9, c = i % 9;
-        if (r == row && found[0] < 0) found[0] = i;
-        if (c == column && found[1] < 0) found[1] = i;
-        if (r / 3 * 3 + c / 3 == square && found[2] < 0) found[2] = i;
-    }
-    for (int f : found)
-        if (f >= 0) return f;
+    for (int unit : eng_priv::kTuples.of[index])  // the row, the column, the square
+        for (int i : eng_priv::kTuples.cells[unit])
+            if (i != index && s.cells[i].value() == value) return i;
     return -1;
 }
 

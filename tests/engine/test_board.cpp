@@ -84,12 +84,14 @@ TEST_F(Game, ValuesAndPencilMarksAreCheckedAgainstTheSolution) {
     EXPECT_TRUE(board.historySize() == 5 && board.cell(hinted)->origin() == originPlayer);
 }
 
-// What a refused digit clashes with: the same digit in the row first, then the column, then the box; else none.
+// What a refused digit clashes with: the same digit in the row first, then the column, then the box (the cell
+// itself never); else none.
 TEST_F(Game, ClashingCellNamesTheDigitInTheWay) {
     ASSERT_TRUE(start(lvlUserEdit) && board.setValue(8, 7) && board.setValue(27, 4) && board.setValue(10, 2));
     EXPECT_EQ(std::vector<int>({board.clashingCell(0, 7), board.clashingCell(54, 4), board.clashingCell(20, 2),
-                                board.clashingCell(0, 3), board.clashingCell(5, 0), board.clashingCell(-9, 4)}),
-              std::vector<int>({8, 27, 10, -1, -1, -1}));
+                                board.clashingCell(0, 3), board.clashingCell(8, 7), board.clashingCell(5, 0),
+                                board.clashingCell(-9, 4)}),
+              std::vector<int>({8, 27, 10, -1, -1, -1, -1}));
 }
 
 TEST_F(Game, MakeMoveSearchesAMoveAndCompletesAnEnteredGrid) {
