@@ -84,17 +84,8 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
     }
     announcer = new Announcer(this, tiles);
     // Game -> Hint: a hint carried out changes the board as Make Move does.
-    auto* hints = new HintController(this, ui->actionHint, [this](const std::function<void()>& change) {
-        if (!board || busy) return;
-        {
-            BusyScope scope(busy);
-            Announcer::Watch watch(*announcer, board);
-            markChanges = true;
-            change();
-            markChanges = false;
-        }
-        if (board->isComplete()) celebrate();
-    });
+    auto* hints =
+        new HintController(this, ui->actionHint, [this](const std::function<void()>& change) { playMove(change); });
     connect(hints, &HintController::announce, announcer, &Announcer::say);
     // The window is as large as its board and cannot be resized or maximised.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -489,12 +480,18 @@ void SudokuWindow::newGameHard() { newGameCommand(eng::lvlHard); }
 void SudokuWindow::newGameUserEdit() { newGameCommand(eng::lvlUserEdit); }
 
 void SudokuWindow::makeMove() {
+    playMove([this] { board->makeMove(); });
+}
+
+// A change to the board made as Make Move makes one: its cells marked, spoken,
+// and celebrated when it completes the board.
+void SudokuWindow::playMove(const std::function<void()>& change) {
     if (!board || busy) return;
     {
         BusyScope scope(busy);
         Announcer::Watch watch(*announcer, board);
         markChanges = true;
-        board->makeMove();
+        change();
         markChanges = false;
     }
     if (board->isComplete()) celebrate();

@@ -155,6 +155,7 @@ private:
     void startFirstGame(KeptGame::Game& first);
     void replaceBoard();
     void newGameCommand(int level);
+    void playMove(const std::function<void()>& change);
     void setHighlight(int value);
     void toggleHighlight(int value);
     void placePencilCaret(int index);
