@@ -114,19 +114,22 @@ QString Announcer::changed(const int* values, const int* marks, const eng::Board
 void Announcer::valueRefused(const eng::Board& board, int index, int value) {
     if (!QAccessible::isActive()) return;
     const int other = board.clashingCell(index, value);
-    const int row = other / 9 + 1, column = other % 9 + 1;
-    if (other < 0)
+    if (other < 0) {
         say(board.getLevel() == eng::lvlUserEdit ? tr("%1 refused: the board would have no solution").arg(value)
                                                  : tr("%1 refused: not this cell's digit").arg(value));
-    else if (other / 9 == index / 9)
+        return;
+    }
+    const eng::CellInfo &at = *board.cell(index), &clash = *board.cell(other);
+    const int row = clash.row() + 1, column = clash.column() + 1;
+    if (clash.row() == at.row())
         say(tr("%1 refused: row %2 already has %1 at column %3").arg(value).arg(row).arg(column));
-    else if (other % 9 == index % 9)
+    else if (clash.column() == at.column())
         say(tr("%1 refused: column %2 already has %1 at row %3").arg(value).arg(column).arg(row));
     else
         //: %2 is the box (1 to 9, in reading order), %3 and %4 where in the board the clashing digit stands
         say(tr("%1 refused: box %2 already has %1 at row %3, column %4")
                 .arg(value)
-                .arg(index / 27 * 3 + index % 9 / 3 + 1)
+                .arg(at.square() + 1)
                 .arg(row)
                 .arg(column));
 }
@@ -168,8 +171,8 @@ void Announcer::read(int key, const eng::Board* board, int index) {
         say(left.isEmpty() ? tr("Every digit is placed") : tr("Still to place: %1").arg(list));
         return;
     }
-    const int at = index >= 0 && index < 81 ? index : 0;
-    const int row = at / 9, column = at % 9, box = row / 3 * 3 + column / 3;
+    const eng::CellInfo& at = *board->cell(index >= 0 && index < 81 ? index : 0);
+    const int row = at.row(), column = at.column(), box = at.square();
     QStringList cells;
     for (int k = 0; k < 9; ++k) {
         const int i = key == Qt::Key_R ? row * 9 + k
