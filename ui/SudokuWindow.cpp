@@ -61,8 +61,8 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
     });
     installBoardAccessibility();
     {
-        // The first frame shows pictures of the tiles; their forms are built
-        // just after it is painted (see eventFilter).
+        // The first frame shows pictures of the tiles (see setVisible); their
+        // forms are built just after it is painted (see eventFilter).
         Tile::FormDeferral deferral;
         ui->setupUi(this);
     }
@@ -119,7 +119,6 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
 
     KeptGame::Game first = firstGame.get();
     startFirstGame(first);
-    Tile::drawPreviews(tiles, 81);
     icons.apply(this);
     if (keptGame) keptGame->attach(this, first);
 }
@@ -156,6 +155,13 @@ PrintingInfo& SudokuWindow::printingOptions() {
 QString SudokuWindow::levelText() const { return ui->txtLevel->text(); }
 
 bool SudokuWindow::pencilMarksShown() const { return ui->actionViewPencilMarks->isChecked(); }
+
+void SudokuWindow::setVisible(bool visible) {
+    QMainWindow::setVisible(visible);
+    if (!visible || firstFramePictured) return;
+    firstFramePictured = true;
+    Tile::drawPreviews(tiles, 81);
+}
 
 void SudokuWindow::closeEvent(QCloseEvent* event) {
     closing = true;

@@ -99,6 +99,10 @@ public slots:
     void doPainting(QPrinter* printer);
 
 protected:
+    // The first time: the request to show the window goes out before the
+    // tiles' pictures for the first frame are drawn, so the window manager
+    // maps the window meanwhile.
+    void setVisible(bool visible) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -127,6 +131,7 @@ private:
     bool painting = false;
     QSoundEffect* sound = nullptr;
     Announcer* announcer = nullptr;  // what a screen reader is told of each move
+    bool firstFramePictured = false;
     bool afterFirstPaintQueued = false;
     // Keystrokes and rule applications that arrived while the window was busy,
     // carried out in order as soon as it is idle again.

@@ -170,12 +170,12 @@ private slots:
     // built after look the same; scaled, where a picture would not be copied pixel for pixel, the forms come at once.
     void firstFrameMatchesBuiltTiles() {
         SudokuWindow fresh;
+        showAtStartUp(fresh);
         const qreal ratio = fresh.devicePixelRatioF();
         QVERIFY(ratio != 1 || !fresh.tileAt(0)->hasForm());
         if (fresh.tileAt(0)->hasForm()) return;
         auto* board = child<QWidget>(fresh, "boardWidget");
         const QImage first = board->grab().toImage().convertToFormat(QImage::Format_RGB32);
-        showAtStartUp(fresh);
         QVERIFY(QTest::qWaitForWindowExposed(&fresh, 30000));
         QTRY_VERIFY_WITH_TIMEOUT(fresh.tileAt(0)->hasForm() && fresh.tileAt(80)->hasForm(), 10000);
         QCOMPARE(board->grab().toImage().convertToFormat(QImage::Format_RGB32), first);
