@@ -34,26 +34,22 @@ QImage readPicture(const QString& name) {
 
 }  // namespace
 
-ActionIcons::ActionIcons() {
-    // As QIcon does, the pictures drawn at twice the size only where a pixel is larger than a device pixel.
-    const bool twice = qApp->devicePixelRatio() > 1;
-    pictures = std::async(std::launch::async, [twice] {
-        std::vector<QImage> images;
-        for (const ActionPicture& entry : kPictures) {
-            const QString name = QString::fromLatin1(entry.picture);
-            images.push_back(readPicture(name + QStringLiteral(".png")));
-            if (twice) images.push_back(readPicture(name + QStringLiteral("@2x.png")));
-        }
-        return images;
-    });
-}
+// As QIcon does, the pictures drawn at twice the size only where a pixel is larger than a device pixel.
+ActionIcons::ActionIcons()
+    : reader([this, twice = qApp->devicePixelRatio() > 1] {
+          for (const ActionPicture& entry : kPictures) {
+              const QString name = QString::fromLatin1(entry.picture);
+              pictures.push_back(readPicture(name + QStringLiteral(".png")));
+              if (twice) pictures.push_back(readPicture(name + QStringLiteral("@2x.png")));
+          }
+      }) {}
 
 void ActionIcons::apply(QWidget* window) {
-    const std::vector<QImage> images = pictures.get();
-    const size_t perAction = images.size() / std::size(kPictures);
+    reader.join();
+    const size_t perAction = pictures.size() / std::size(kPictures);
     for (size_t i = 0; i < std::size(kPictures); ++i) {
         QIcon icon;
-        for (size_t k = 0; k < perAction; ++k) icon.addPixmap(QPixmap::fromImage(images[i * perAction + k]));
+        for (size_t k = 0; k < perAction; ++k) icon.addPixmap(QPixmap::fromImage(pictures[i * perAction + k]));
         if (auto* action = window->findChild<QAction*>(QLatin1String(kPictures[i].action))) action->setIcon(icon);
     }
 }

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QImage>
-#include <future>
 #include <vector>
+
+#include "SideThread.h"
 
 class QWidget;
 
@@ -16,5 +17,6 @@ public:
     void apply(QWidget* window);
 
 private:
-    std::future<std::vector<QImage>> pictures;
+    std::vector<QImage> pictures;
+    SideThread reader;
 };

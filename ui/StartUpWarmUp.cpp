@@ -14,9 +14,5 @@ constexpr std::size_t kStartUpHeap = 2 * 1024 * 1024;
 // The toolkit asks fontconfig for the same configuration and finds it loaded.
 StartUpWarmUp::StartUpWarmUp() {
     mapHeapAhead(kStartUpHeap);
-    fontLoader = std::thread([] { FcInit(); });
-}
-
-StartUpWarmUp::~StartUpWarmUp() {
-    if (fontLoader.joinable()) fontLoader.join();
+    fontLoader.emplace([] { FcInit(); });
 }

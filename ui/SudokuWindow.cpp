@@ -11,7 +11,6 @@
 #include <QSoundEffect>
 #include <QThread>
 #include <QTimer>
-#include <future>
 #include <sstream>
 
 #include "AboutDialog.h"
@@ -19,6 +18,7 @@
 #include "ActionIcons.h"
 #include "HintController.h"
 #include "PuzzleClipboard.h"
+#include "SideThread.h"
 #include "TileAccessible.h"
 #include "WholeFile.h"
 #include "ui_SudokuWindow.h"
@@ -51,13 +51,13 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
     : QMainWindow(parent), ui(new Ui::SudokuWindowClass), keptGame(keptGame) {
     ActionIcons icons;
     // The first game, the kept one or a new one, is read or generated on a second thread while the form is built.
-    std::future<KeptGame::Game> firstGame = std::async(std::launch::async, [rules = selectedRules(), keptGame] {
-        KeptGame::Game first = keptGame ? keptGame->take() : KeptGame::Game();
-        if (first.restored) return first;
+    KeptGame::Game first;
+    SideThread firstGame([&first, rules = selectedRules(), keptGame] {
+        if (keptGame) first = keptGame->take();
+        if (first.restored) return;
         first.board = std::make_unique<eng::Board>(nullptr);
         first.board->setPencilMarksRules(rules);
         if (!first.board->generate(eng::lvlMedium)) first.board.reset();
-        return first;
     });
     installBoardAccessibility();
     {
@@ -117,7 +117,7 @@ SudokuWindow::SudokuWindow(QWidget* parent, KeptGame* keptGame)
         puzzleClipboard->paste(board != nullptr);
     });
 
-    KeptGame::Game first = firstGame.get();
+    firstGame.join();
     startFirstGame(first);
     icons.apply(this);
     if (keptGame) keptGame->attach(this, first);
