@@ -66,6 +66,11 @@ public:
     bool isBusy() const { return busy > 0 || !deferred.empty(); }
 
 public slots:
+    // The first time: the request to show the window goes out before the
+    // tiles' pictures for the first frame are drawn, so the window manager
+    // maps the window meanwhile.
+    void setVisible(bool visible) override;
+
     void tileLeftClicked(int index);
     void tileLeftDoubleClicked(int index);
     void tileSinglePotentialDoubleClicked(int index, int value);
@@ -99,10 +104,6 @@ public slots:
     void doPainting(QPrinter* printer);
 
 protected:
-    // The first time: the request to show the window goes out before the
-    // tiles' pictures for the first frame are drawn, so the window manager
-    // maps the window meanwhile.
-    void setVisible(bool visible) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
