@@ -6,16 +6,19 @@ SideThread::SideThread(std::function<void()> task) : work(std::move(task)) {
     pthread_attr_t attributes;
     pthread_attr_init(&attributes);
     const int here = sched_getcpu();
-    anyProcessor = sched_getaffinity(0, sizeof allowed, &allowed) == 0;
-    if (anyProcessor && here >= 0 && here < CPU_SETSIZE && CPU_ISSET(here, &allowed) && CPU_COUNT(&allowed) > 1) {
+    if (sched_getaffinity(0, sizeof allowed, &allowed) == 0 && here >= 0 && here < CPU_SETSIZE &&
+        CPU_ISSET(here, &allowed) && CPU_COUNT(&allowed) > 1) {
         cpu_set_t elsewhere = allowed;
         CPU_CLR(here, &elsewhere);
-        pthread_attr_setaffinity_np(&attributes, sizeof elsewhere, &elsewhere);
+        confined = pthread_attr_setaffinity_np(&attributes, sizeof elsewhere, &elsewhere) == 0;
     }
     joinable = pthread_create(&thread, &attributes, &SideThread::run, this) == 0;
     pthread_attr_destroy(&attributes);
     // Where the processors cannot be chosen, anywhere; where no thread can be made, here.
-    if (!joinable) joinable = pthread_create(&thread, nullptr, &SideThread::run, this) == 0;
+    if (!joinable) {
+        confined = false;
+        joinable = pthread_create(&thread, nullptr, &SideThread::run, this) == 0;
+    }
     if (!joinable) run(this);
 }
 
@@ -31,7 +34,7 @@ void SideThread::join() {
 
 void* SideThread::run(void* self) {
     auto* side = static_cast<SideThread*>(self);
-    if (side->anyProcessor) sched_setaffinity(0, sizeof side->allowed, &side->allowed);
+    if (side->confined) sched_setaffinity(0, sizeof side->allowed, &side->allowed);
     try {
         side->work();
     } catch (...) {

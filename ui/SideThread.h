@@ -27,8 +27,8 @@ private:
 
     std::function<void()> work;
     std::exception_ptr failure;
-    cpu_set_t allowed;  // the processors the process may use
-    bool anyProcessor = false;
+    cpu_set_t allowed;     // the processors the creator may use
+    bool confined = false;  // started on those but the creator's, until it runs
     pthread_t thread{};
     bool joinable = false;
 };
